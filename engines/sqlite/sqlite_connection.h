@@ -1,0 +1,49 @@
+// engines/sqlite: the embedded engine. One file for the company, a second one beside it (the same
+// path with ".vespara" behind it) for what several applications share, attached as Vespara.
+//
+// Every statement passes the compiler; what it declared is kept in the file itself (table
+// `korvantes_schema`), so that a file opened later brings its own catalogue of types.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "outside/ado/connection.h"
+
+namespace korvantes::sqlite {
+
+/// How a database file is opened.
+struct OpenOptions {
+  bool create = false;      ///< make the files when they are missing; else a missing file is an Error
+  int busyMilliseconds = 5000;  ///< how long to wait for another user's write
+};
+
+/// A connection to a database file. WAL, full durability, immediate transactions; files are made
+/// with mode 0600. Errors carry SQLite's words and its extended result code.
+class SqliteConnection : public ado::Connection {
+ public:
+  explicit SqliteConnection(const std::string& path, OpenOptions options = {});
+  ~SqliteConnection() override;
+  SqliteConnection(const SqliteConnection&) = delete;
+  SqliteConnection& operator=(const SqliteConnection&) = delete;
+
+  ado::Recordset Execute(std::string_view statement, long long* rowsAffected = nullptr) override;
+  void BeginTrans() override;
+  void CommitTrans() override;
+  void RollbackTrans() override;
+  bool inTransaction() const override;
+  ado::Recordset OpenForUpdate(std::string_view statement) override;
+
+  /// True when the file holds at least one table.
+  bool hasTables() const;
+
+  /// Figures for benchmarks: texts that found their statement prepared, and texts compiled.
+  std::size_t cacheHits() const;
+  std::size_t cacheMisses() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace korvantes::sqlite

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engines/tsql/types.h"
+
+namespace korvantes::tsql {
+
+struct ColumnDefinition {
+  std::string name;
+  Type type;
+  bool nullable = true;
+  bool identity = false;  ///< numbered by the database; a number is never used twice
+};
+
+struct TableDefinition {
+  std::string database;  ///< empty for the company's own database, else as declared ("Vespara")
+  std::string name;
+  std::vector<ColumnDefinition> columns;
+  std::vector<std::string> primaryKey;
+
+  /// Position of a column by name without regard to case.
+  std::optional<std::size_t> find(std::string_view column) const;
+};
+
+/// The tables a statement may name: what CREATE TABLE statements declared. Names are found without
+/// regard to case.
+class Catalogue {
+ public:
+  const TableDefinition* find(std::string_view database, std::string_view table) const;
+  /// Throws ado::Error when the table is there already.
+  void add(TableDefinition table);
+  void remove(std::string_view database, std::string_view table);
+  const std::vector<TableDefinition>& tables() const { return tables_; }
+
+ private:
+  std::vector<TableDefinition> tables_;
+};
+
+}  // namespace korvantes::tsql

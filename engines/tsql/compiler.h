@@ -1,0 +1,91 @@
+// engines/tsql: a compiler for the subset of T-SQL that the module and its host's database service
+// send.
+//
+//   text -> lexer -> parser (unbound tree) -> binder (typed tree) -> writer (text of one engine)
+//
+// Nothing is patched by text replacement, and no exact number ever becomes a binary float: money
+// and decimals travel as whole numbers of units whose scale is known when a statement is compiled.
+// The docs page docs/sql-subset.md lists the syntax.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "engines/tsql/catalogue.h"
+#include "outside/ado/recordset.h"
+
+namespace korvantes::tsql {
+
+/// A value in the form in which the engine stores it: whole numbers, units of an exact number
+/// (scale by its type), dates as "yyyy-mm-dd" text, texts as UTF-8, bytes.
+using StoredValue = std::variant<std::monostate, std::int64_t, std::string, ado::Bytes>;
+
+enum class StatementKind { Select, Insert, Update, Delete, CreateTable, CreateIndex, DropTable };
+
+/// A statement in the words of one engine, ready to be prepared once and run many times.
+struct CompiledStatement {
+  StatementKind kind = StatementKind::Select;
+  /// The engine's text, with ?1, ?2 … for the lifted literals.
+  std::string text;
+  /// Result columns, names as the statement wrote them; empty unless a SELECT.
+  ado::FieldDefinitions fields;
+  /// Type of each result column, in order.
+  std::vector<Type> types;
+  /// CREATE TABLE: what to add to the catalogue once it has run.
+  std::optional<TableDefinition> created;
+  /// DROP TABLE: database and name.
+  std::string droppedDatabase, droppedTable;
+  /// The table changed, or the one table a SELECT reads ("select * from AGE …"); empty for joins.
+  std::string database, table;
+};
+
+/// A compiled statement together with this text's own literals, in the order of its parameters.
+struct BoundStatement {
+  std::shared_ptr<const CompiledStatement> statement;
+  std::vector<StoredValue> parameters;
+};
+
+/// Compiles texts against a catalogue and keeps what it compiled.
+///
+/// The cache is looked up by the text with its literals taken out, so that the ten thousandth
+/// "… WHERE Cav_id = 4711" is one scan over the text, a hash and the conversion of its literals.
+/// Literals that decide how the statement is compiled (a scale, the 2 of ROUND, the 100 of a
+/// division, TOP, a length) stay part of the key.
+///
+/// All failures are ado::Error in Spanish with the position (line and column from 1) and the word:
+/// a text outside the subset or with a second statement, an unknown table or column, an ambiguous
+/// name, types that do not go together, a literal that is no date or does not fit.
+class Compiler {
+ public:
+  enum class Engine { SQLite };
+
+  Compiler(Engine engine, std::shared_ptr<Catalogue> catalogue);
+  ~Compiler();
+  Compiler(const Compiler&) = delete;
+  Compiler& operator=(const Compiler&) = delete;
+
+  BoundStatement compile(std::string_view text);
+
+  /// Forgets all compiled statements: after the catalogue has changed.
+  void clear();
+
+  /// Figures for benchmarks: texts found in the cache, and texts compiled.
+  std::size_t hits() const;
+  std::size_t misses() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+/// Cuts a file of statements into single ones: at lines that hold GO alone, and at lines that end
+/// in ';'. Comments between statements and empty pieces fall away; quotes are respected.
+std::vector<std::string> splitStatements(std::string_view file);
+
+}  // namespace korvantes::tsql

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+namespace korvantes::tsql {
+
+/// A type of the server, as far as the subset knows them.
+enum class TypeKind {
+  Null,      ///< the word NULL before it meets a typed neighbour
+  Bit,       ///< 0 or 1
+  Int,       ///< 32 bits; counts are of this type too
+  Money,     ///< exact, four decimals, 64 bits
+  Decimal,   ///< exact, `precision` digits of which `scale` behind the point
+  Date,      ///< a day
+  VarChar,   ///< up to `length` characters, 0 for max
+  Char,      ///< exactly `length` characters, padded with blanks
+  VarBinary  ///< bytes
+};
+
+struct Type {
+  TypeKind kind = TypeKind::Null;
+  int precision = 0;  ///< Decimal: digits in all
+  int scale = 0;      ///< Decimal: digits behind the point; Money: 4; Int and Bit: 0
+  int length = 0;     ///< VarChar, Char, VarBinary: characters or bytes, 0 for max
+
+  friend bool operator==(const Type&, const Type&) = default;
+};
+
+/// The type as a declaration writes it: "money", "decimal(5,2)", "varchar(40)".
+std::string nameOf(const Type& type);
+
+}  // namespace korvantes::tsql

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace korvantes::ado {
+
+/// Texts are UTF-8; lengths that a user meets (a field's maximum, a column's size) count
+/// characters, that is, code points. A byte that belongs to no valid sequence counts as one
+/// character, so that no text is ever lost or refused here.
+
+/// Number of characters.
+std::size_t characterCount(std::string_view text);
+
+/// The first `count` characters, the whole text when it has fewer.
+std::string_view firstCharacters(std::string_view text, std::size_t count);
+
+/// Byte position of character `index`; the text's size when it has no such character.
+std::size_t byteOffset(std::string_view text, std::size_t index);
+
+/// The code points of a text; an invalid byte stands as U+FFFD.
+std::u32string toCodePoints(std::string_view text);
+
+/// UTF-8 of one code point.
+std::string toUtf8(char32_t character);
+std::string toUtf8(std::u32string_view characters);
+
+}  // namespace korvantes::ado
