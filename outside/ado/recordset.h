@@ -60,7 +60,8 @@ class Field {
   /// for update. Text longer than the field's size is cut to it, by characters; a number or a date
   /// of another kind is converted to the field's type, Null is taken everywhere. Throws
   /// ConversionError for a value that the type cannot hold, Error without a current row or on a
-  /// result that cannot be changed.
+  /// result that cannot be changed. The change is kept by Update and dropped by CancelUpdate or by
+  /// moving away; until then only this cursor sees it.
   void Value(Variant value);
 
  private:
@@ -135,7 +136,8 @@ class Recordset {
   /// match the cursor is left at EOF (searching backward: at BOF). The criterion is one comparison
   /// "name = value" (also <, <=, >, >=, <>), the value a number with a point, a text or a date
   /// between single quotes (a date as dd/mm/yyyy). Null matches nothing. Throws Error for any
-  /// other text and where the cursor has no row to start from in an empty recordset it does nothing.
+  /// other text and where the cursor has no row to start from; in an empty recordset it does
+  /// nothing.
   void Find(std::string_view criterion, long skip = 0, Direction direction = Direction::Forward);
 
   ado::Bookmark Bookmark() const;

@@ -11,12 +11,16 @@
 
 namespace korvantes::ado {
 
+/// What a Variant holds, in the order of its alternatives. (Stands outside of the class and before
+/// Bytes, or the compiler takes the enumerator for a shadow of the type.)
+enum class VariantKind { Null, Boolean, Whole, Double, Decimal, Date, Text, Bytes };
+
 using Bytes = std::vector<std::byte>;
 
 /// One value of a field or of a statement.
 class Variant {
  public:
-  enum class Kind { Null, Boolean, Whole, Double, Decimal, Date, Text, Bytes };
+  using Kind = VariantKind;
 
   Variant() = default;
   Variant(bool value) : value_(value) {}
@@ -56,7 +60,8 @@ class Variant {
   friend bool operator==(const Variant&, const Variant&) = default;
 
  private:
-  std::variant<std::monostate, bool, std::int64_t, double, Decimal, Date, std::string, Bytes> value_;
+  std::variant<std::monostate, bool, std::int64_t, double, Decimal, Date, std::string, Bytes>
+      value_;
 };
 
 }  // namespace korvantes::ado
