@@ -9,22 +9,17 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include "engines/tsql/catalogue.h"
+#include "engines/tsql/value.h"
 #include "outside/ado/recordset.h"
 
 namespace korvantes::tsql {
-
-/// A value in the form in which the engine stores it: whole numbers, units of an exact number
-/// (scale by its type), dates as "yyyy-mm-dd" text, texts as UTF-8, bytes.
-using StoredValue = std::variant<std::monostate, std::int64_t, std::string, ado::Bytes>;
 
 enum class StatementKind { Select, Insert, Update, Delete, CreateTable, CreateIndex, DropTable };
 

@@ -7,7 +7,7 @@ namespace korvantes::tsql {
 
 /// The arithmetic that compiled statements call for while they run: whole numbers of units with a
 /// 128-bit intermediate. An engine registers these functions under the names its writer uses
-/// (engines/tsql/sqlite_writer.h). Nothing is returned when a result leaves 64 bits or a division
+/// (engines/tsql/functions.h). Nothing is returned when a result leaves 64 bits or a division
 /// is by zero; the engine turns that into the server's error.
 
 /// a + b, a - b, a * b.

@@ -29,4 +29,22 @@ struct Type {
 /// The type as a declaration writes it: "money", "decimal(5,2)", "varchar(40)".
 std::string nameOf(const Type& type);
 
+/// Decimals of money.
+constexpr int kMoneyScale = 4;
+/// Digits that a decimal can have: its units are 64-bit whole numbers.
+constexpr int kMaxDigits = 18;
+
+/// Bit, Int, Money or Decimal.
+bool isNumber(const Type& type);
+/// VarChar or Char.
+bool isText(const Type& type);
+
+Type bitType();
+Type intType();
+Type moneyType();
+Type dateType();
+Type decimalType(int precision, int scale);
+/// 0 stands for max.
+Type varCharType(int length);
+
 }  // namespace korvantes::tsql

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "engines/tsql/value.h"
+
+namespace korvantes::tsql {
+
+/// The functions that the SQLite writer's texts call. An engine registers every one of them, under
+/// its name, as deterministic. A call with a Null argument gives Null and does not reach the
+/// function. A failure is an ado::Error with the server's number and Spanish words.
+///
+/// Besides these the engine registers the collation KV_TEXT, which is ado::compareTexts.
+
+/// A function of whole numbers (counts, keys, units of exact numbers).
+struct NumberFunction {
+  const char* name;
+  int arguments;
+  std::int64_t (*call)(const std::int64_t* arguments);
+};
+
+/// A function that takes or gives a text.
+struct ValueFunction {
+  const char* name;
+  int arguments;
+  StoredValue (*call)(std::span<const StoredValue> arguments);
+};
+
+std::span<const NumberFunction> numberFunctions();
+std::span<const ValueFunction> valueFunctions();
+
+}  // namespace korvantes::tsql

@@ -1,0 +1,83 @@
+#include "engines/tsql/runtime.h"
+
+#include <limits>
+
+#include "engines/tsql/wide.h"
+
+namespace korvantes::tsql {
+
+std::optional<std::int64_t> narrow(Wide value) {
+  if (value > std::numeric_limits<std::int64_t>::max() ||
+      value < std::numeric_limits<std::int64_t>::min()) {
+    return std::nullopt;
+  }
+  return static_cast<std::int64_t>(value);
+}
+
+std::optional<Wide> powerOfTen(int exponent) {
+  if (exponent < 0 || exponent > 38) return std::nullopt;
+  Wide power = 1;
+  for (int i = 0; i < exponent; ++i) power *= 10;
+  return power;
+}
+
+Wide divideHalfAway(Wide value, Wide divisor) {
+  const Wide quotient = value / divisor;
+  const Wide rest = value % divisor;
+  const Wide magnitude = rest < 0 ? -rest : rest;
+  if (magnitude < divisor - magnitude) return quotient;
+  return value < 0 ? quotient - 1 : quotient + 1;
+}
+
+std::optional<Wide> rescaleWide(Wide units, int fromScale, int toScale) {
+  const auto power = powerOfTen(toScale > fromScale ? toScale - fromScale : fromScale - toScale);
+  if (toScale <= fromScale) return power ? divideHalfAway(units, *power) : Wide{0};
+  Wide result = 0;
+  if (!power || __builtin_mul_overflow(units, *power, &result)) return std::nullopt;
+  return result;
+}
+
+std::optional<Wide> roundWide(Wide units, int scale, int places) {
+  if (places >= scale) return units;
+  const auto power = powerOfTen(scale - places);
+  if (!power) return Wide{0};
+  Wide result = 0;
+  if (__builtin_mul_overflow(divideHalfAway(units, *power), *power, &result)) return std::nullopt;
+  return result;
+}
+
+std::optional<std::int64_t> addUnits(std::int64_t a, std::int64_t b) {
+  return narrow(Wide{a} + Wide{b});
+}
+
+std::optional<std::int64_t> subtractUnits(std::int64_t a, std::int64_t b) {
+  return narrow(Wide{a} - Wide{b});
+}
+
+std::optional<std::int64_t> multiplyUnits(std::int64_t a, std::int64_t b) {
+  return narrow(Wide{a} * Wide{b});
+}
+
+std::optional<std::int64_t> rescaleUnits(std::int64_t units, int fromScale, int toScale) {
+  const auto result = rescaleWide(units, fromScale, toScale);
+  return result ? narrow(*result) : std::nullopt;
+}
+
+std::optional<std::int64_t> roundUnits(std::int64_t units, int scale, int places) {
+  const auto result = roundWide(units, scale, places);
+  return result ? narrow(*result) : std::nullopt;
+}
+
+std::optional<std::int64_t> divideUnits(std::int64_t a, std::int64_t b, int shift) {
+  const auto power = powerOfTen(shift < 0 ? -shift : shift);
+  if (b == 0 || !power) return std::nullopt;
+  Wide dividend = a;
+  Wide divisor = b;
+  if (__builtin_mul_overflow(shift < 0 ? divisor : dividend, *power,
+                             shift < 0 ? &divisor : &dividend)) {
+    return std::nullopt;
+  }
+  return narrow(dividend / divisor);
+}
+
+}  // namespace korvantes::tsql

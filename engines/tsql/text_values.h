@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "engines/tsql/types.h"
+
+namespace korvantes::tsql {
+
+/// How numbers, dates and texts turn into one another. A failure is an ado::Error.
+
+/// Units of `type` (a number) that a text stands for: blanks around it are allowed, digits with at
+/// most one point. Digits beyond the scale round half away from zero; a whole number takes no
+/// point. A blank text is 0, as the server has it, but for decimals an error.
+std::int64_t unitsFromText(std::string_view text, const Type& type);
+
+/// "yyyy-mm-dd" of a text dd/mm/yyyy; trailing blanks are allowed.
+std::string isoFromText(std::string_view text);
+
+/// A number as the server writes it into a text type: whole numbers and decimals with all digits,
+/// money with two decimals. A whole number longer than `target` becomes "*", other numbers that do
+/// not fit are an error.
+std::string textFromUnits(std::int64_t units, const Type& from, const Type& target);
+
+/// The text cut to the type's length and, for char(n), padded with blanks.
+std::string fixedText(std::string_view text, const Type& target);
+
+/// The text as a column of `target` stores it: blanks beyond the length fall away, char(n) is
+/// padded. A longer text is an error that names the column.
+std::string storedText(std::string_view text, const Type& target, std::string_view column);
+
+/// LIKE: % any run, _ one character, [abc], [a-c] and [^abc] one of a set; without regard to case.
+bool matchesLike(std::string_view text, std::string_view pattern);
+
+std::string upperCase(std::string_view text);
+std::string lowerCase(std::string_view text);
+
+/// The value as an int, when it is within 32 bits.
+std::optional<std::int64_t> asInt(std::int64_t value);
+
+/// Whether the value has at most `digits` digits.
+bool hasDigits(std::int64_t value, int digits);
+
+}  // namespace korvantes::tsql
