@@ -1,0 +1,76 @@
+# Sourced by ./run, ./test and .ci/run: which Debian packages each of them needs, and how they get
+# installed. Everything is said on standard error, so that the output of a program started
+# afterwards stays clean.
+
+build_packages=(g++ cmake ninja-build pkg-config libsqlite3-dev)
+run_packages=(libsqlite3-0)
+test_packages=(libgtest-dev libgmock-dev)
+check_packages=(git clang-format)
+
+say() { printf '%s\n' "$*" >&2; }
+
+# ensure_packages NAME...: installs those that are missing; without any it calls nothing but
+# dpkg-query.
+ensure_packages() {
+  if ! command -v dpkg-query >/dev/null; then
+    say "This is no Debian system. Install the equivalents of these packages, then use the CMake"
+    say "presets (cmake --preset dev): $*"
+    return 1
+  fi
+  local installed missing=() package
+  installed=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' "$@" 2>/dev/null || true)"
+  for package in "$@"; do
+    [[ $installed == *" installed:$package "* ]] || missing+=("$package")
+  done
+  ((${#missing[@]})) || return 0
+
+  local as_root=(env)
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      say "These packages are missing: ${missing[*]}"
+      say "Installing them needs root, and there is no sudo. As root, run:"
+      say "  apt-get update && apt-get install --no-install-recommends ${missing[*]}"
+      return 1
+    fi
+    as_root=(sudo env)
+  fi
+  as_root+=(DEBIAN_FRONTEND=noninteractive)
+
+  local log
+  log=$(mktemp)
+  say "Installing ${#missing[@]} missing packages: ${missing[*]}"
+  if ! { "${as_root[@]}" apt-get -q update &&
+    "${as_root[@]}" apt-get -q -y --no-install-recommends install "${missing[@]}"; } \
+    </dev/null >"$log" 2>&1; then
+    tail -n 20 "$log" >&2
+    rm -f "$log"
+    say "The packages could not be installed; the last lines of apt-get stand above."
+    return 1
+  fi
+  rm -f "$log"
+}
+
+# build_preset PRESET: configures build/PRESET where that has not been done, and builds what is
+# missing. Silent unless something has to be built or fails.
+build_preset() {
+  local preset=$1 directory=build/$1 log options=()
+  mkdir -p "$directory"
+  log=$directory/build.log
+  if [[ ! -f $directory/build.ninja ]]; then
+    if command -v ccache >/dev/null; then options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+    say "Configuring $directory."
+    if ! cmake --preset "$preset" "${options[@]}" </dev/null >"$log" 2>&1; then
+      cat "$log" >&2
+      say "The project could not be configured; what CMake said stands above."
+      return 1
+    fi
+  fi
+  # A dry run tells whether there is anything to do; it is much quicker than to say so for nothing.
+  if ninja -C "$directory" -n </dev/null 2>/dev/null | grep -q 'no work to do'; then return 0; fi
+  say "Building $directory (a first build takes some minutes)."
+  if ! ninja -C "$directory" </dev/null >"$log" 2>&1; then
+    grep -v '^\[[0-9]*/[0-9]*\] [A-Z][a-z]*ing ' "$log" | head -n 100 >&2
+    say "The build failed; all of it stands in $log."
+    return 1
+  fi
+}
