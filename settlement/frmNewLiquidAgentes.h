@@ -55,14 +55,18 @@ class frmNewLiquidAgentes : public screen::Form {
   /// Looks an agent up; 0 asks the user. Gives back the code chosen, 0 for none.
   void msBuscarAgente(std::int32_t& nAgente);
   void msCargaIva();
+  void msCargaRegimen();
   void msBuscarFacturas();
   void msCalculaTotales();
   void msGrabarLiquidacion();
 
+  void cargaDetalle(ado::Connection& conexion, const std::string& sLiqui);
+
   /// The code that a text of nothing but digits stands for; nothing when it is anything else or no
   /// Long.
   static std::optional<std::int32_t> codigoDe(std::string_view texto);
-  /// Says that the code in Text1(0) is none, and gives it the focus.
+  /// Says that the code in Text1(0) is none, drops the agent found before, and gives the focus to
+  /// the box.
   void avisaCodigoNoValido();
   /// Number in a box, under the regional settings; an empty box counts as 0.
   double numeroEn(int index) const;
@@ -74,7 +78,8 @@ class frmNewLiquidAgentes : public screen::Form {
   std::int32_t escribeLiquidacion(plindor::BaseDatos& oDb);
   void borraLiquidacionAnterior(ado::Connection& conexion);
   void insertaCabecera(plindor::BaseDatos& oDb);
-  void insertaDetalle(plindor::BaseDatos& oDb, std::int32_t nNueva);
+  void insertaDetalle(plindor::BaseDatos& oDb, std::int32_t nNueva,
+                      const screen::ListView::ListItem& fila);
   void imprimeLiquidacion(std::int32_t nNueva);
 
   std::unique_ptr<plindor::UtilFormulario> oUtil;
