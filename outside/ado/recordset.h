@@ -111,6 +111,7 @@ class Recordset {
 
   ado::Fields Fields() const { return ado::Fields(*this); }
   Field Fields(std::size_t position) const { return Fields()(position); }
+  Field Fields(int position) const { return Fields()(static_cast<std::size_t>(position)); }
   Field Fields(std::string_view name) const { return Fields()(name); }
   Field Fields(const char* name) const { return Fields()(std::string_view(name)); }
   /// Value of a field of the current row, as Fields(name).Value().
