@@ -14,7 +14,10 @@ const std::shared_ptr<KORVAN>& oComponente();
 /// service yet.
 const std::shared_ptr<plindor::BaseDatos>& MyBd();
 
-/// The connection of that service.
+/// MyBd of that object. Throws ado::Error when none was set yet.
+const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente);
+
+/// The connection of the service of oComponente.
 ado::Connection& Conexion();
 
 }  // namespace korvantes::mdoKORVANTES

@@ -1,0 +1,52 @@
+#include "component/mdoKORVANTES.h"
+
+#include "outside/ado/error.h"
+
+namespace korvantes {
+
+namespace {
+
+/// The runtime's number for an object reference that was never set.
+constexpr long kReferenceNotSet = 91;
+
+/// Seen by this file alone, so that nothing but Class_Initialize can write it.
+std::shared_ptr<KORVAN>& componente() {
+  static std::shared_ptr<KORVAN> objeto;
+  return objeto;
+}
+
+}  // namespace
+
+void KORVAN::Class_Initialize() {
+  componente() = shared_from_this();
+}
+
+namespace mdoKORVANTES {
+
+const std::shared_ptr<KORVAN>& oComponente() {
+  return componente();
+}
+
+const std::shared_ptr<plindor::BaseDatos>& MyBd() {
+  if (!oComponente()) {
+    throw ado::Error(kReferenceNotSet, "No se ha creado todavía ningún componente KORVANTES");
+  }
+  return servicioDe(*oComponente());
+}
+
+const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente) {
+  if (!componente.MyBd()) {
+    throw ado::Error(kReferenceNotSet,
+                     "El componente KORVANTES no tiene base de datos: hay que asignar MyBd antes "
+                     "de usarlo");
+  }
+  return componente.MyBd();
+}
+
+ado::Connection& Conexion() {
+  return MyBd()->Conexion();
+}
+
+}  // namespace mdoKORVANTES
+
+}  // namespace korvantes
