@@ -1,0 +1,65 @@
+#include "tests/support/faulty_connection.h"
+
+#include <type_traits>
+
+namespace korvantes::support {
+
+FaultyConnection::FaultyConnection(std::shared_ptr<ado::Connection> real)
+    : real_(std::move(real)) {}
+
+void FaultyConnection::failAt(std::size_t call, ado::Error error, When when) {
+  calls_.clear();
+  failed_ = false;
+  failure_ = Failure{call, std::move(error), when};
+}
+
+void FaultyConnection::heal() {
+  calls_.clear();
+  failed_ = false;
+  failure_.reset();
+}
+
+void FaultyConnection::fail() {
+  failed_ = true;
+  const ado::Error error = failure_->error;
+  failure_.reset();
+  throw error;
+}
+
+template <class Call>
+auto FaultyConnection::counted(std::string_view name, Call call) {
+  calls_.emplace_back(name);
+  const bool due = failure_ && calls_.size() == failure_->call;
+  if (due && failure_->when == When::Before) fail();
+  if constexpr (std::is_void_v<decltype(call())>) {
+    call();
+    if (due) fail();
+  } else {
+    auto answer = call();
+    if (due) fail();
+    return answer;
+  }
+}
+
+ado::Recordset FaultyConnection::Execute(std::string_view statement, long long* rowsAffected) {
+  return counted(statement, [&] { return real_->Execute(statement, rowsAffected); });
+}
+
+void FaultyConnection::BeginTrans() {
+  counted("BeginTrans", [&] { real_->BeginTrans(); });
+}
+
+void FaultyConnection::CommitTrans() {
+  counted("CommitTrans", [&] { real_->CommitTrans(); });
+}
+
+void FaultyConnection::RollbackTrans() {
+  if (!countRollbacks_) return real_->RollbackTrans();
+  counted("RollbackTrans", [&] { real_->RollbackTrans(); });
+}
+
+ado::Recordset FaultyConnection::OpenForUpdate(std::string_view statement) {
+  return counted(statement, [&] { return real_->OpenForUpdate(statement); });
+}
+
+}  // namespace korvantes::support
