@@ -14,12 +14,19 @@ namespace korvantes::sqlite {
 
 /// How a database file is opened.
 struct OpenOptions {
-  bool create = false;      ///< make the files when they are missing; else a missing file is an Error
+  /// Make the files when they are missing. Else a missing file is an Error; without its partner a
+  /// file opens, and only the statements that name the shared tables are refused.
+  bool create = false;
   int busyMilliseconds = 5000;  ///< how long to wait for another user's write
 };
 
 /// A connection to a database file. WAL, full durability, immediate transactions; files are made
-/// with mode 0600. Errors carry SQLite's words and its extended result code.
+/// with mode 0600, and a link in the place of a file is refused. Errors carry a Spanish sentence
+/// with SQLite's words and its extended result code; those of an arithmetic carry the server's.
+///
+/// When SQLite gives a transaction up by itself (a full disk), further statements are refused until
+/// the caller knows, by RollbackTrans, by inTransaction or by a new BeginTrans: none of them is
+/// stored on its own.
 class SqliteConnection : public ado::Connection {
  public:
   explicit SqliteConnection(const std::string& path, OpenOptions options = {});
