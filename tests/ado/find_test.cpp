@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "outside/ado/error.h"
+#include "outside/ado/recordset.h"
+
+namespace korvantes::ado {
+namespace {
+
+Recordset people() {
+  const auto fields = std::make_shared<const std::vector<FieldDefinition>>(
+      std::vector<FieldDefinition>{{"Id", FieldType::Double, 0, 0},
+                                   {"Nombre", FieldType::VarChar, 40, 0},
+                                   {"Base", FieldType::Currency, 0, 4},
+                                   {"Alta", FieldType::Date, 0, 0}});
+  return {fields,
+          {1.0,
+           "Muñoz",
+           Decimal(105000, 4),
+           Date{2024, 1, 31},  //
+           2.0,
+           "O'Neill",
+           {},
+           Date{2025, 1, 1},  //
+           3.0,
+           "muñoz ",
+           Decimal(200000, 4),
+           {}}};
+}
+
+TEST(FindTest, StopsAtTheFirstMatchFromTheCurrentRowOn) {
+  const struct {
+    const char* criterion;
+    int position;  ///< -1 for EOF
+  } cases[] = {{"Id = 1", 0},
+               {"id=3", 2},
+               {"Id = 3.5", -1},
+               {"[Id] >= 2", 1},
+               {"Nombre = 'MUÑOZ'", 0},
+               {"Nombre = 'o''neill'", 1},
+               {"Nombre > 'n'", 1},
+               {"Base = 10.5", 0},
+               {"Base <> 10.5", 2},
+               {"Base < 0", -1},
+               {"Alta > '31/01/2024'", 1},
+               {"Alta <= '31/1/2024 '", 0}};
+  for (const auto& [criterion, position] : cases) {
+    Recordset rows = people();
+    rows.Find(criterion);
+    const Bookmark expected =
+        position < 0 ? Bookmark() : Bookmark(static_cast<std::size_t>(position));
+    EXPECT_EQ(rows.position(), expected) << criterion;
+    EXPECT_EQ(rows.isEOF(), !expected) << criterion;
+  }
+}
+
+TEST(FindTest, SkipsAndSearchesBackward) {
+  Recordset rows = people();
+  rows.Find("Nombre = 'muñoz'", 1);
+  EXPECT_EQ(rows.position(), 2U);
+  rows.Find("Nombre = 'muñoz'", 1, Recordset::Direction::Backward);
+  EXPECT_EQ(rows.position(), 0U);
+  rows.Find("Id = 1", 1, Recordset::Direction::Backward);
+  EXPECT_TRUE(rows.isBOF());
+  rows.MoveFirst();
+  rows.Find("Id = 1", 999'999);
+  EXPECT_TRUE(rows.isEOF());
+}
+
+TEST(FindTest, NeedsARowToStartFromUnlessThereIsNone) {
+  Recordset rows = people();
+  rows.Find("Id = 9");
+  EXPECT_THROW(rows.Find("Id = 1"), Error);
+  Recordset empty;
+  empty.Fields().Append("Fav_Id", FieldType::Double);
+  empty.Open();
+  empty.Find("Fav_Id = 12");
+  EXPECT_TRUE(empty.isEOF());
+}
+
+TEST(FindTest, RefusesOtherTexts) {
+  for (const char* criterion : {"", "Id", "Id =", "Id == 1", "Id = 1 AND Id = 2", "Id = 1,5",
+                                "Id = '1'", "Nombre = x", "Nombre = 'a", "Nombre = 'a'b'",
+                                "Nombre like 'a'", "Alta = '31/02/2024'", "Alta = 1", "Otro = 1"}) {
+    Recordset rows = people();
+    EXPECT_THROW(rows.Find(criterion), Error) << criterion;
+    EXPECT_EQ(rows.position(), 0U);
+  }
+}
+
+}  // namespace
+}  // namespace korvantes::ado

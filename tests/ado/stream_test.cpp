@@ -1,0 +1,96 @@
+#include "outside/ado/stream.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "outside/ado/error.h"
+
+namespace korvantes::ado {
+namespace {
+
+namespace fs = std::filesystem;
+
+class StreamTest : public testing::Test {
+ protected:
+  StreamTest()
+      : folder_(fs::temp_directory_path() /
+                ("ado_stream." + std::to_string(::getpid()) + "." +
+                 testing::UnitTest::GetInstance()->current_test_info()->name())) {
+    fs::create_directories(folder_);
+  }
+  ~StreamTest() override { fs::remove_all(folder_); }
+  std::string at(const char* name) const { return (folder_ / name).string(); }
+  std::size_t files() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
+  }
+
+  fs::path folder_;
+};
+
+Bytes pattern(std::size_t size) {
+  Bytes bytes(size);
+  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::byte>(i * 7 % 251);
+  return bytes;
+}
+
+TEST_F(StreamTest, BringsAllBytesThereAndBack) {
+  for (const std::size_t size : {std::size_t{0}, std::size_t{3}, std::size_t{200'000}}) {
+    Stream out;
+    out.Write(pattern(size / 2));
+    out.Write(pattern(size - size / 2));
+    out.SaveToFile(at("foto"));
+    Stream in;
+    in.Write(pattern(5));  // replaced by the file
+    in.LoadFromFile(at("foto"));
+    EXPECT_EQ(in.Read(), out.Read());
+  }
+  struct stat state {};
+  ASSERT_EQ(::stat(at("foto").c_str(), &state), 0);
+  EXPECT_EQ(state.st_mode & 0777U, 0600U);
+  EXPECT_EQ(files(), 1U);
+}
+
+TEST_F(StreamTest, ALinkIsReplacedAndNotFollowed) {
+  std::ofstream(at("ajeno")) << "intacto";
+  fs::create_symlink("ajeno", at("foto"));
+  Stream out;
+  out.Write(pattern(10));
+  out.SaveToFile(at("foto"));
+  EXPECT_FALSE(fs::is_symlink(at("foto")));
+  EXPECT_EQ(fs::file_size(at("ajeno")), 7U);
+}
+
+TEST_F(StreamTest, FailuresCarryTheSystemsWordsAndLeaveNothingBehind) {
+  Stream stream;
+  stream.Write(pattern(4));
+  fs::create_directory(at("carpeta"));
+  EXPECT_THROW(stream.SaveToFile(at("carpeta")), Error);
+  EXPECT_THROW(stream.SaveToFile(at("no/hay")), Error);
+  EXPECT_EQ(files(), 1U);
+  ASSERT_EQ(::mkfifo(at("tubo").c_str(), 0600), 0);
+  EXPECT_THROW(stream.LoadFromFile(at("tubo")), Error);
+  EXPECT_THROW(stream.LoadFromFile(at("carpeta")), Error);
+  try {
+    stream.LoadFromFile(at("nada"));
+    FAIL();
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), ENOENT);
+    EXPECT_NE(std::string(error.what()).find(at("nada")), std::string::npos);
+  }
+  EXPECT_EQ(stream.Read(), pattern(4));
+}
+
+TEST_F(StreamTest, AFileBeyondTheLimitIsRefused) {
+  std::ofstream(at("grande")).put('x');
+  fs::resize_file(at("grande"), Stream::kMaxBytes + 1);
+  Stream stream;
+  EXPECT_THROW(stream.LoadFromFile(at("grande")), Error);
+  EXPECT_TRUE(stream.Read().empty());
+}
+
+}  // namespace
+}  // namespace korvantes::ado

@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "outside/ado/error.h"
+#include "outside/ado/text_order.h"
+#include "outside/ado/utf8.h"
+
+namespace korvantes::ado {
+namespace {
+
+int sign(int number) {
+  return (number > 0) - (number < 0);
+}
+
+TEST(TextOrderTest, OrdersAsASpanishReaderExpects) {
+  // Every earlier text comes before every later one.
+  const std::vector<std::string> order{
+      "",      "1",       "10",    "9",    "a",     "Álamo",    "alamo b", "ana",   "ánade",
+      "árbol", "canción", "canto", "caña", "cañón", "cao",      "coz",     "Élite", "n",
+      "nz",    "ñ",       "Ñu",    "o",    "Óscar", "pingüino", "z"};
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    for (std::size_t j = 0; j < order.size(); ++j) {
+      const int expected = (i > j) - (i < j);
+      EXPECT_EQ(sign(compareTexts(order[i], order[j])), expected) << order[i] << " / " << order[j];
+    }
+  }
+}
+
+TEST(TextOrderTest, CaseAndBlanksBehindNeverCount) {
+  EXPECT_EQ(compareTexts("ABC", "abc   "), 0);
+  EXPECT_EQ(compareTexts("ÁRBOL ñ", "árbol Ñ "), 0);
+  EXPECT_EQ(compareTexts("", "   "), 0);
+  EXPECT_NE(compareTexts(" a", "a"), 0);
+}
+
+TEST(TextOrderTest, AccentsDecideOnlyBetweenEqualLetters) {
+  EXPECT_LT(compareTexts("mas", "más"), 0);
+  EXPECT_LT(compareTexts("más", "masa"), 0);
+  EXPECT_LT(compareTexts("más a", "mas b"), 0);
+  EXPECT_LT(compareTexts("cigüeña", "cigueñas"), 0);
+}
+
+TEST(TextOrderTest, CombiningAccentsCountAsTheLettersTheyMake) {
+  EXPECT_EQ(compareTexts("can\u0303a", "caña"), 0);
+  EXPECT_EQ(compareTexts("e\u0301", "É"), 0);
+  EXPECT_LT(compareTexts("n", "n\u0303"), 0);
+  EXPECT_GT(compareTexts("\u0301", "z"), 0);  // on no letter it orders by its code
+}
+
+TEST(TextOrderTest, NamesFoldAsciiLettersAlone) {
+  EXPECT_TRUE(sameName("Lca_ID", "lca_id"));
+  EXPECT_FALSE(sameName("Lca_Id", "Lca_Id "));
+  EXPECT_FALSE(sameName("Ñ", "ñ"));
+  EXPECT_FALSE(sameName("[", "{"));
+}
+
+TEST(Utf8Test, CountsAndCutsCharacters) {
+  const std::string text = "añ€😀b";
+  EXPECT_EQ(characterCount(text), 5U);
+  EXPECT_EQ(firstCharacters(text, 3), "añ€");
+  EXPECT_EQ(firstCharacters(text, 99), text);
+  EXPECT_EQ(byteOffset(text, 4), text.size() - 1);
+  EXPECT_EQ(byteOffset(text, 6), text.size());
+  EXPECT_EQ(toUtf8(toCodePoints(text)), text);
+}
+
+TEST(Utf8Test, AnInvalidByteIsACharacterOfItsOwn) {
+  const struct {
+    std::string text;
+    std::size_t characters;
+  } cases[] = {{"a\xFF"
+                "b",
+                3},
+               {"\xC3", 1},
+               {"\xE2\x82", 2},
+               {"\xC0\x80", 2},
+               {"\xED\xA0\x80", 3},
+               {"\xF4\x90\x80\x80", 4},
+               {"\xC3(", 2}};
+  for (const auto& [text, characters] : cases) {
+    EXPECT_EQ(characterCount(text), characters);
+    EXPECT_EQ(firstCharacters(text, 1).size(), 1U);
+  }
+  EXPECT_EQ(toCodePoints("\xFF"), U"\uFFFD");
+  EXPECT_EQ(toUtf8(char32_t{0xD800}), "\uFFFD");
+}
+
+TEST(ErrorTest, TheSubjectIsOneShortLine) {
+  EXPECT_EQ(Error(0, "x", " update\n  Cav\tset Cav_IdLca = 1 ").subject(),
+            "update Cav set Cav_IdLca = 1");
+  const std::string many = subjectOf("insert into Age values ('" + std::string(500, 'x'));
+  EXPECT_EQ(many.size(), 60U);
+  EXPECT_EQ(subjectOf(std::string(59, 'a') + "ñandú"), std::string(59, 'a') + "ñ");
+}
+
+}  // namespace
+}  // namespace korvantes::ado
