@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "outside/ado/date.h"
+#include "outside/screen/regional.h"
+
+namespace korvantes::host {
+
+/// What the user asked for: options, then an order with its arguments.
+struct CommandLine {
+  std::optional<std::string> base;  ///< URL of the database; the sample database without it
+  std::optional<screen::Regional> regional;  ///< the machine's without it
+  std::optional<ado::Date> today;            ///< the machine's without it
+  /// Where reports and spreadsheets go when there is no display.
+  std::filesystem::path output = "out";
+  bool help = false;
+  bool version = false;
+  std::string order;  ///< empty: opens the desktop
+  std::vector<std::string> arguments;
+};
+
+/// Reads the arguments behind the program's name. Throws Failure for an unknown option, one without
+/// its value, or a value that is none.
+CommandLine readCommandLine(const std::vector<std::string>& arguments);
+
+/// The text of --ayuda.
+extern const std::string_view kHelp;
+
+/// Reads a whole number between the limits. Throws Failure, naming the argument.
+std::int64_t readWholeNumber(std::string_view argument, std::string_view text,
+                             std::int64_t smallest, std::int64_t largest);
+
+}  // namespace korvantes::host

@@ -1,0 +1,40 @@
+#include <limits>
+#include <ostream>
+
+#include "component/KORVAN.h"
+#include "data/commission_rule.h"
+#include "host/database.h"
+#include "host/failure.h"
+#include "host/orders.h"
+#include "outside/screen/conversions.h"
+
+namespace korvantes::host {
+namespace {
+
+template <class Number>
+Number wholeArgument(std::string_view name, const std::string& text) {
+  return static_cast<Number>(readWholeNumber(name, text, std::numeric_limits<Number>::min(),
+                                             std::numeric_limits<Number>::max()));
+}
+
+}  // namespace
+
+void orderCommission(const CommandLine& line, Streams streams) {
+  if (line.arguments.size() != 3)
+    throw Failure("comision: se esperan tres números, ORIGEN ID IDLI");
+  const auto origin = wholeArgument<std::int16_t>("ORIGEN", line.arguments[0]);
+  const auto header = wholeArgument<std::int32_t>("ID", line.arguments[1]);
+  const auto documentLine = wholeArgument<std::int32_t>("IDLI", line.arguments[2]);
+  if (origin != data::kPedido && origin != data::kAlbaran)
+    throw Failure("ORIGEN: " + inQuotes(line.arguments[0]) + " no es 2 (pedido) ni 3 (albarán)");
+
+  const Database database = openDatabase(line.base, OpenMode::Existing);
+  const auto component = KORVAN::Create();
+  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection));
+  const double commission = component->msComisionAgente(origin, header, documentLine);
+  component->MyBd(nullptr);
+  const screen::Regional regional = line.regional.value_or(screen::Regional::ofMachine());
+  streams.out << screen::CStr(commission, regional) << '\n';
+}
+
+}  // namespace korvantes::host

@@ -1,0 +1,59 @@
+#include <ostream>
+
+#include "component/KORVAN.h"
+#include "host/database.h"
+#include "host/failure.h"
+#include "host/input_text.h"
+#include "host/orders.h"
+#include "host/sample_data.h"
+#include "host/screens.h"
+#include "host/script_player.h"
+#include "host/temporary_folder.h"
+#include "outside/screen/headless_desktop.h"
+
+namespace korvantes::host {
+namespace {
+
+/// The time of day that a fixed clock shows.
+constexpr int kNoon = 12 * 60 * 60;
+constexpr screen::ProgramVersion kVersion = {KORVANTES_VERSION_NUMBERS};
+
+/// Throws Failure when lines of the script could not be done.
+void play(std::string_view script, const CommandLine& line, const Database& database,
+          std::ostream& out) {
+  screen::HeadlessDesktop desktop;
+  if (line.regional) desktop.regional(*line.regional);
+  if (line.today) desktop.clock = ado::Moment{*line.today, kNoon};
+  desktop.version(kVersion);
+
+  const auto component = KORVAN::Create();
+  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection));
+  ScriptPlayer player(desktop, *database.connection, screensOf(*component), out);
+  const int errors = player.play(script);
+  // The module keeps its object for good; the connection is to close now.
+  component->MyBd(nullptr);
+  if (errors > 0)
+    throw Failure("el guion ha dado errores: " + std::to_string(errors) +
+                  (errors == 1 ? " línea marcada" : " líneas marcadas") + " con [error]");
+}
+
+}  // namespace
+
+void orderScript(const CommandLine& line, Streams streams) {
+  if (line.arguments.size() != 1)
+    throw Failure("guion: se espera un FICHERO, o - para leerlo de la entrada");
+  const Database database = openDatabase(line.base, OpenMode::Existing);
+  const std::string script = readInput(line.arguments.front(), streams.in);
+  play(script, line, database, streams.out);
+}
+
+void playSampleSettlement(const CommandLine& line, Streams streams) {
+  streams.out << "No hay escritorio gráfico: se reproduce la liquidación de muestra sobre una base "
+                 "temporal.\n\n";
+  const TemporaryFolder folder;
+  const Database database = openFile((folder.path() / "muestra.db").string(), OpenMode::Create);
+  createTables(database, loadSampleData);
+  play(kSampleSettlement, line, database, streams.out);
+}
+
+}  // namespace korvantes::host

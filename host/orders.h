@@ -1,0 +1,34 @@
+#pragma once
+
+#include <iosfwd>
+#include <string_view>
+
+#include "host/command_line.h"
+#include "host/host.h"
+
+namespace korvantes::host {
+
+/// The orders of the command line. Each throws Failure, ado::Error or ado::ConversionError with the
+/// words for the user.
+
+/// crear and demo: the tables, empty or with sample data.
+void orderCreate(const CommandLine& line, Streams streams);
+void orderDemo(const CommandLine& line, Streams streams);
+
+/// sql: runs the statements of a file one after another, up to the first that fails.
+void orderSql(const CommandLine& line, Streams streams);
+
+/// comision: the commission of a document, in the general form of the regional settings.
+void orderCommission(const CommandLine& line, Streams streams);
+
+/// guion: plays a script. A line of it that could not be done makes the order fail at the end.
+void orderScript(const CommandLine& line, Streams streams);
+
+/// No order and no display: plays the sample settlement on a database of its own, which is removed
+/// afterwards, so that it works again and again and no database of the user changes.
+void playSampleSettlement(const CommandLine& line, Streams streams);
+
+/// The script of the sample settlement.
+extern const std::string_view kSampleSettlement;
+
+}  // namespace korvantes::host

@@ -1,0 +1,84 @@
+#include "host/script_player.h"
+
+#include <exception>
+#include <utility>
+
+#include "host/script_actions.h"
+
+namespace korvantes::host {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// The lines that say something, without the blanks in front of them.
+std::deque<std::string> linesOf(std::string_view script) {
+  if (script.starts_with(kByteOrderMark)) script.remove_prefix(kByteOrderMark.size());
+  std::deque<std::string> lines;
+  while (!script.empty()) {
+    std::string_view line = script.substr(0, script.find('\n'));
+    script.remove_prefix(line.size() == script.size() ? line.size() : line.size() + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    const auto first = line.find_first_not_of(" \t");
+    if (first != std::string_view::npos) lines.emplace_back(line.substr(first));
+  }
+  return lines;
+}
+
+}  // namespace
+
+ScriptPlayer::ScriptPlayer(screen::HeadlessDesktop& desktop, ado::Connection& base, Screens screens,
+                           std::ostream& out)
+    : desktop_(desktop),
+      formerDesktop_(screen::Desktop::makeCurrent(&desktop)),
+      screens_(std::move(screens)),
+      transcript_(out),
+      answers_(transcript_),
+      stage_{desktop, base, screens_, transcript_, answers_} {
+  desktop_.whileShown = [this](screen::Form& form) { playTopForm(form); };
+  desktop_.onMessage = [this](const screen::MessageBox& box) { return answers_.answer(box); };
+  desktop_.onList = [this](const screen::ListDialog& dialog) { return answers_.answer(dialog); };
+  desktop_.onFile = [this](const screen::FileDialog& dialog) { return answers_.answer(dialog); };
+  desktop_.onClosed = [this](const screen::Form& form) {
+    transcript_.happening("cerrado", form.name());
+  };
+}
+
+ScriptPlayer::~ScriptPlayer() {
+  desktop_.whileShown = nullptr;
+  desktop_.onMessage = nullptr;
+  desktop_.onList = nullptr;
+  desktop_.onFile = nullptr;
+  desktop_.onClosed = nullptr;
+  screen::Desktop::makeCurrent(formerDesktop_);
+}
+
+int ScriptPlayer::play(std::string_view script) {
+  lines_ = linesOf(script);
+  while (playNextLine()) {
+  }
+  return transcript_.errors();
+}
+
+/// False when the script has ended. Lines that follow an opened screen are played in here too,
+/// until that screen closes.
+bool ScriptPlayer::playNextLine() {
+  if (lines_.empty()) return false;
+  const std::string line = std::move(lines_.front());
+  lines_.pop_front();
+  transcript_.action(line);
+  if (line.starts_with('#')) return true;
+  try {
+    performAction(stage_, line);
+  } catch (const std::exception& failure) {
+    transcript_.error(failure.what());
+  }
+  return true;
+}
+
+void ScriptPlayer::playTopForm(screen::Form& form) {
+  if (playNextLine()) return;
+  desktop_.user().close();
+  form.Unload();
+}
+
+}  // namespace korvantes::host

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <deque>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+#include "host/script_stage.h"
+
+namespace korvantes::host {
+
+/// Plays the user from a script: one action a line, "#" begins a comment line. It drives the real
+/// screens on a headless desktop, which it makes the current one for its lifetime, and prints a
+/// transcript: each line behind "> " (blank ones aside), and under it what happened.
+///
+/// A line that cannot be done is an "[error]" and the run goes on. A form still open when the
+/// script has ended is closed.
+class ScriptPlayer {
+ public:
+  ScriptPlayer(screen::HeadlessDesktop& desktop, ado::Connection& base, Screens screens,
+               std::ostream& out);
+  ~ScriptPlayer();
+  ScriptPlayer(const ScriptPlayer&) = delete;
+  ScriptPlayer& operator=(const ScriptPlayer&) = delete;
+
+  /// Gives the number of errors.
+  int play(std::string_view script);
+
+ private:
+  bool playNextLine();
+  void playTopForm(screen::Form& form);
+
+  screen::HeadlessDesktop& desktop_;
+  screen::Desktop* formerDesktop_;
+  Screens screens_;
+  Transcript transcript_;
+  QueuedAnswers answers_;
+  ScriptStage stage_;
+  std::deque<std::string> lines_;
+};
+
+}  // namespace korvantes::host
