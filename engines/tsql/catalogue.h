@@ -9,6 +9,9 @@
 
 namespace korvantes::tsql {
 
+/// The database that several applications share, the one name that may stand in front of dbo.
+constexpr std::string_view kSharedDatabase = "Vespara";
+
 struct ColumnDefinition {
   std::string name;
   Type type;

@@ -166,17 +166,26 @@ StoredValue refuseNull(Arguments a) {
   throw failure(Problem::NullValue, text(a[0]));
 }
 
+template <StoredValue (*call)(Arguments)>
+StoredValue failing(Arguments arguments) {
+  try {
+    return call(arguments);
+  } catch (const Refusal& refusal) {
+    throw failure(refusal.problem, refusal.word, refusal.detail);
+  }
+}
+
 constexpr std::array kValueFunctions{
-    ValueFunction{"kv_upper", 1, upper},
-    ValueFunction{"kv_lower", 1, lower},
-    ValueFunction{"kv_like", 2, like},
-    ValueFunction{"kv_fix_text", 3, fixText},
-    ValueFunction{"kv_store_text", 4, storeText},
-    ValueFunction{"kv_number_text", 6, numberText},
-    ValueFunction{"kv_text_number", 4, textNumber},
-    ValueFunction{"kv_text_date", 1, textDate},
-    ValueFunction{"kv_date_text", 1, dateText},
-    ValueFunction{"kv_refuse_null", 1, refuseNull},
+    ValueFunction{"kv_upper", 1, failing<upper>},
+    ValueFunction{"kv_lower", 1, failing<lower>},
+    ValueFunction{"kv_like", 2, failing<like>},
+    ValueFunction{"kv_fix_text", 3, failing<fixText>},
+    ValueFunction{"kv_store_text", 4, failing<storeText>},
+    ValueFunction{"kv_number_text", 6, failing<numberText>},
+    ValueFunction{"kv_text_number", 4, failing<textNumber>},
+    ValueFunction{"kv_text_date", 1, failing<textDate>},
+    ValueFunction{"kv_date_text", 1, failing<dateText>},
+    ValueFunction{"kv_refuse_null", 1, failing<refuseNull>},
 };
 
 }  // namespace

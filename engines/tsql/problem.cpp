@@ -31,6 +31,8 @@ Words wordsOf(Problem problem) {
       return {8632, "la sentencia tiene demasiados valores"};
     case Problem::NotSupported:
       return {102, "no se admite «{word}»"};
+    case Problem::NoDatabase:
+      return {911, "no existe la base de datos «{word}»"};
     case Problem::NoTable:
       return {208, "no existe la tabla «{word}»"};
     case Problem::NoColumn:
@@ -144,7 +146,10 @@ ado::Error describe(const Refusal& refusal, std::string_view statement) {
 
 ado::Error failure(Problem problem, std::string_view word, std::string_view detail) {
   const auto words = wordsOf(problem);
-  return {words.number, wordsWith(words.text, word, detail)};
+  std::string text = wordsWith(words.text, word, detail);
+  if (text.front() >= 'a' && text.front() <= 'z')
+    text.front() = static_cast<char>(text.front() - 32);
+  return {words.number, text};
 }
 
 }  // namespace korvantes::tsql

@@ -33,6 +33,7 @@ enum class Problem {
   TooManyLiterals,
   NotSupported,
   // names
+  NoDatabase,
   NoTable,
   NoColumn,
   NoFunction,

@@ -40,12 +40,12 @@ std::optional<Wide> parseUnits(std::string_view text, int scale, bool pointAllow
     if (point) ++decimals;
     units = units * 10 + (c - '0');
     if (units > Wide{std::numeric_limits<std::int64_t>::max()} * 10) {
-      throw failure(Problem::Overflow);
+      refuse(Problem::Overflow, {});
     }
   }
   if (!digits) return std::nullopt;
   const auto scaled = rescaleWide(negative ? -units : units, decimals, scale);
-  if (!scaled) throw failure(Problem::Overflow);
+  if (!scaled) refuse(Problem::Overflow, {});
   return scaled;
 }
 
@@ -69,11 +69,11 @@ std::int64_t unitsFromText(std::string_view text, const Type& type) {
   if (digits.empty() && type.kind != TypeKind::Decimal) return 0;
   const bool whole = type.kind == TypeKind::Int || type.kind == TypeKind::Bit;
   const auto wide = parseUnits(digits, type.scale, !whole);
-  if (!wide) throw failure(Problem::NoNumber, text);
+  if (!wide) refuse(Problem::NoNumber, {}, text);
   const auto units = narrow(*wide);
   if (!units || (type.kind == TypeKind::Int && !asInt(*units)) ||
       (type.kind == TypeKind::Decimal && !hasDigits(*units, type.precision))) {
-    throw failure(Problem::NumberTooLarge, digits, nameOf(type));
+    refuse(Problem::NumberTooLarge, {}, digits, nameOf(type));
   }
   if (type.kind == TypeKind::Bit) return *units != 0 ? 1 : 0;
   return *units;
@@ -81,7 +81,7 @@ std::int64_t unitsFromText(std::string_view text, const Type& type) {
 
 std::string isoFromText(std::string_view text) {
   const auto date = ado::Date::parseDayFirst(text);
-  if (!date) throw failure(Problem::NoDate, text);
+  if (!date) refuse(Problem::NoDate, {}, text);
   return date->iso();
 }
 
@@ -95,7 +95,7 @@ std::string textFromUnits(std::int64_t units, const Type& from, const Type& targ
   }
   if (target.length > 0 && text.size() > static_cast<std::size_t>(target.length)) {
     if (from.kind != TypeKind::Int && from.kind != TypeKind::Bit) {
-      throw failure(Problem::NumberTooLarge, text, nameOf(target));
+      refuse(Problem::NumberTooLarge, {}, text, nameOf(target));
     }
     text = "*";
   }
@@ -118,7 +118,7 @@ std::string storedText(std::string_view text, const Type& target, std::string_vi
   if (length != 0 && text.size() > length) {
     const auto rest = text.substr(ado::byteOffset(text, length));
     if (rest.find_first_not_of(' ') != std::string_view::npos) {
-      throw failure(Problem::TextTooLong, column);
+      refuse(Problem::TextTooLong, {}, column);
     }
   }
   return fixedText(text, target);

@@ -9,7 +9,8 @@
 
 namespace korvantes::tsql {
 
-/// How numbers, dates and texts turn into one another. A failure is an ado::Error.
+/// How numbers, dates and texts turn into one another. A failure is a Refusal without a place:
+/// the caller knows where the value stands, if it stands in a text at all.
 
 /// Units of `type` (a number) that a text stands for: blanks around it are allowed, digits with at
 /// most one point. Digits beyond the scale round half away from zero; a whole number takes no

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "engines/tsql/problem.h"
+#include "engines/tsql/typed.h"
+
+namespace korvantes::tsql {
+
+/// Where an expression stands and what it is called in messages.
+struct Place {
+  Location where;
+  std::string word;
+};
+
+template <typename Node>
+typed::ExpressionPtr make(const Type& type, Node node) {
+  return std::make_unique<typed::Expression>(typed::Expression{type, std::move(node)});
+}
+
+template <typename... Operands>
+typed::ExpressionPtr operate(typed::Operation operation, const Type& type,
+                             std::array<int, 3> numbers, Operands... operands) {
+  typed::Operate node{operation, {}, numbers, {}};
+  (node.operands.push_back(std::move(operands)), ...);
+  return make(type, std::move(node));
+}
+
+typed::ExpressionPtr nullConstant();
+bool isNullConstant(const typed::Expression& expression);
+/// The units of a constant number; nothing for anything else.
+std::optional<std::int64_t> constantUnits(const typed::Expression& expression);
+
+/// The type that two expressions meet in: of a CASE, a COALESCE, a UNION, a comparison. Nothing
+/// when they do not go together.
+std::optional<Type> commonType(const Type& a, const Type& b);
+
+/// A number at another scale. Multiplications and rescalings that follow each other become one
+/// operation.
+typed::ExpressionPtr rescaled(typed::ExpressionPtr value, int scale, const Type& type);
+
+/// ROUND(value, places).
+typed::ExpressionPtr rounded(typed::ExpressionPtr value, int places);
+
+/// CAST(value AS target): texts are cut, whole numbers too long for a text become "*".
+typed::ExpressionPtr converted(typed::ExpressionPtr value, const Type& target, const Place& place);
+
+/// The value as a comparison with the other side, whose common type is given, needs it: only
+/// scales and kinds are brought together, so that a column stays a column where it can.
+typed::ExpressionPtr compared(typed::ExpressionPtr value, const Type& common, const Place& place);
+
+/// The value as it goes into a column: a text too long and, where the column forbids it, a Null
+/// are errors.
+typed::ExpressionPtr assigned(typed::ExpressionPtr value, const ColumnDefinition& column,
+                              const Place& place);
+
+}  // namespace korvantes::tsql
