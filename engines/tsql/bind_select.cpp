@@ -242,6 +242,9 @@ typed::Order Binder::bindOrder(const syntax::OrderItem& item, const syntax::Sele
   }
   order.value = bindValue(expression);
   order.type = order.value->type;
+  if (std::holds_alternative<typed::Constant>(order.value->node)) {
+    refuse(Problem::OrderPosition, expression.where, expression.word);
+  }
   if (!onlySelected) return order;
   const auto* wanted = columnOf(*order.value);
   for (std::size_t i = 0; wanted != nullptr && i < bound.items.size(); ++i) {

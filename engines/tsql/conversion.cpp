@@ -57,7 +57,9 @@ ExpressionPtr toInt(ExpressionPtr value) {
 ExpressionPtr toDecimal(ExpressionPtr value, const Type& target) {
   const int digits = wholeDigits(value->type) + target.scale;
   value = rescaled(std::move(value), target.scale, target);
-  if (digits <= target.precision) return value;
+  const auto units = constantUnits(*value);
+  const bool fits = units ? hasDigits(*units, target.precision) : digits <= target.precision;
+  if (fits) return value;
   return operate(Operation::CheckDigits, target, {target.precision}, std::move(value));
 }
 
@@ -129,7 +131,9 @@ std::optional<Type> commonType(const Type& a, const Type& b) {
       if (a.kind != kind && b.kind != kind) continue;
       if (kind != TypeKind::Decimal) return a.kind == kind ? a : b;
       const int scale = std::max(a.scale, b.scale);
-      return decimalType(std::max(wholeDigits(a), wholeDigits(b)) + scale, scale);
+      constexpr int kServerDigits = 38;
+    const int whole = std::max(wholeDigits(a), wholeDigits(b));
+    return decimalType(std::min(whole + scale, kServerDigits), scale);
     }
   }
   if (isText(a) && isText(b)) {

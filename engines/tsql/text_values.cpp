@@ -60,6 +60,7 @@ std::optional<std::int64_t> asInt(std::int64_t value) {
 }
 
 bool hasDigits(std::int64_t value, int digits) {
+  if (digits > kMaxDigits) return true;  // more than 64 bits hold
   const auto limit = powerOfTen(digits);
   return limit && Wide{value} < *limit && Wide{value} > -*limit;
 }
