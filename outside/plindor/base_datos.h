@@ -15,14 +15,17 @@ namespace korvantes::plindor {
 /// it.
 class BaseDatos {
  public:
+  /// Throws ado::Error without a connection.
   explicit BaseDatos(std::shared_ptr<ado::Connection> conexion);
 
-  /// Forgets table, condition and columns. The number is always 0.
+  /// Forgets condition and columns; the table stays, as some callers name it first. The number is
+  /// always 0.
   void LimpiaSentencia(long nReservado = 0);
 
-  std::string Tabla;      ///< table of the statement
-  std::string Condicion;  ///< text behind it, " WHERE …"; empty or a blank for an insert
-  ListaCampos Campos;     ///< its columns
+  std::string Tabla;  ///< table of the statement
+  /// Text behind the statement, " WHERE …"; empty or a blank for an insert.
+  std::string Condicion;
+  ListaCampos Campos;  ///< its columns
 
   ado::Connection& Conexion() const { return *conexion_; }
 

@@ -19,7 +19,7 @@ class ListaCampos {
   };
 
   /// Adds a column with its value as the statement will carry it:
-  ///  1 whole number, from a number or its digits: bare digits;
+  ///  1 whole number of 32 bits, from a number or its digits: bare digits;
   ///  2 number, from a number or from a text under the regional settings: a point and `nDecimales`
   ///    places, rounded half away from zero at 15 significant digits;
   ///  3 text: between single quotes, quotes inside doubled;

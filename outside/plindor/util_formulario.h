@@ -25,7 +25,9 @@ class UtilFormulario {
   std::string LetraNif(const std::string& sNif, const std::string& sVacio) const;
 
   /// Rounds the decimal that the double stands for at 15 significant digits, half away from zero:
-  /// 1.005 gives 1.01, 2.925 gives 2.93, -0.005 gives -0.01; never a negative zero.
+  /// 1.005 gives 1.01, 2.925 gives 2.93, -0.005 gives -0.01; never a negative zero. From 1E+15 on
+  /// a number has no decimals to round and stays as it is. Throws ado::ConversionError for
+  /// infinities, NaN and a negative number of decimals.
   double Redondea(double dValor, long nDecimales) const;
 
   /// Shows the field as unfocused. With a mask, its text is then written in it: "dd/mm/yyyy" takes
@@ -35,8 +37,10 @@ class UtilFormulario {
   /// Shows the field as focused.
   void AlRecibirFoco(screen::TextBox& oControl, std::string_view sFormato) const;
 
-  /// After a change of the text, typed or assigned: bFlag says that the field takes digits alone.
-  /// Takes out what the key filter of that field would have refused. nEstado and sVacio are the
+  /// After a change of the text: takes out what does not belong into the field, should it have come
+  /// in by another way than the keys. bFlag True: all but digits. False: all but digits and one
+  /// decimal separator. Only while the field has the focus: a stored value that the program shows
+  /// elsewhere stays whole, so that saving it again loses nothing. nEstado and sVacio are the
   /// handler's own and are left alone.
   void AlCambiarTexto(screen::TextBox& oControl, ado::Variant& nEstado, bool bFlag,
                       const std::string& sVacio) const;

@@ -1,0 +1,181 @@
+#include "outside/plindor/util_formulario.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "outside/ado/error.h"
+#include "outside/ado/text_order.h"
+#include "outside/ado/utf8.h"
+#include "outside/screen/conversions.h"
+#include "outside/screen/desktop.h"
+
+namespace korvantes::plindor {
+
+namespace {
+
+constexpr std::string_view kMascaraFecha = "dd/mm/yyyy";
+/// Below this, keys are control characters: Backspace, Tab, Enter, Escape.
+constexpr int kPrimerCaracter = 32;
+/// Decimal digits that a double holds for sure.
+constexpr int kDigitos = 15;
+
+template <class Caracter>
+bool esDigito(Caracter c) {
+  return c >= Caracter{'0'} && c <= Caracter{'9'};
+}
+
+bool sonDigitos(std::string_view texto) {
+  return std::all_of(texto.begin(), texto.end(), esDigito<char>);
+}
+
+std::string_view sinBlancos(std::string_view texto) {
+  const auto primero = texto.find_first_not_of(' ');
+  if (primero == std::string_view::npos) return {};
+  return texto.substr(primero, texto.find_last_not_of(' ') - primero + 1);
+}
+
+/// The date in a field: ddmmyyyy, ddmmyy or with separators.
+std::optional<ado::Date> fechaDe(std::string_view texto) {
+  texto = sinBlancos(texto);
+  if (!sonDigitos(texto)) return screen::toDate(texto);
+  if (texto.size() != 8 && texto.size() != 6) return std::nullopt;
+  const std::string dia(texto.substr(0, 2));
+  const std::string mes(texto.substr(2, 2));
+  const std::string anno(texto.substr(4));
+  return screen::toDate(dia + '/' + mes + '/' + anno);
+}
+
+/// The text written in the mask; as it is when it does not fit.
+std::string conMascara(const std::string& texto, std::string_view mascara) {
+  if (ado::sameName(mascara, kMascaraFecha)) {
+    const std::optional<ado::Date> fecha = fechaDe(texto);
+    return fecha ? fecha->dayFirst() : texto;
+  }
+  const std::optional<double> numero = screen::parseNumber(texto);
+  return numero ? screen::Format(*numero, mascara) : texto;
+}
+
+/// The text of the field without what is selected, which the next character replaces.
+std::u32string restoDe(const screen::TextBox& control) {
+  std::u32string texto = ado::toCodePoints(control.Text());
+  const auto limite = static_cast<int>(texto.size());
+  const int inicio = std::clamp(control.SelStart(), 0, limite);
+  const int largo = std::clamp(control.SelLength(), 0, limite - inicio);
+  texto.erase(static_cast<std::size_t>(inicio), static_cast<std::size_t>(largo));
+  return texto;
+}
+
+/// What the field may hold of a text that came in whole.
+std::string depurado(const std::string& texto, bool soloDigitos, char separador) {
+  std::string salida;
+  bool separado = false;
+  for (const char c : texto) {
+    if (esDigito(c)) {
+      salida += c;
+    } else if (!soloDigitos && !separado && (c == separador || c == '.')) {
+      salida += separador;
+      separado = true;
+    }
+  }
+  return salida;
+}
+
+}  // namespace
+
+std::string UtilFormulario::LetraNif(const std::string& sNif, const std::string& sVacio) const {
+  constexpr std::string_view kLetras = "TRWAGMYFPDXBNJZSQVHLCKE";
+  constexpr std::string_view kExtranjeros = "XYZxyz";
+  constexpr int kMaximo = 8;
+
+  int numero = 0;
+  if (!sNif.empty()) {
+    const auto letra = kExtranjeros.find(sNif.front());
+    if (letra != std::string_view::npos) numero = static_cast<int>(letra % 3);
+  }
+  int digitos = 0;
+  for (const char c : sNif) {
+    if (!esDigito(c)) continue;
+    if (++digitos > kMaximo) return sVacio;
+    numero = numero * 10 + (c - '0');
+  }
+  if (digitos == 0) return sVacio;
+  return std::string(1, kLetras[static_cast<std::size_t>(numero) % kLetras.size()]);
+}
+
+double UtilFormulario::Redondea(double dValor, long nDecimales) const {
+  if (nDecimales < 0) throw ado::ConversionError("No se puede redondear a menos de 0 decimales");
+  // Of numbers this large, the fifteenth digit stands before the point.
+  if (std::fabs(dValor) >= 1e15 && std::isfinite(dValor)) return dValor;
+  // Places behind the last significant digit are zeros: leaving them out keeps the exact decimal
+  // within its range.
+  const long orden = dValor == 0 ? 0 : static_cast<long>(std::floor(std::log10(std::fabs(dValor))));
+  const long lugares = std::min({nDecimales, kDigitos - orden, long{ado::Decimal::kMaxScale}});
+  return ado::decimalFromDouble(dValor, static_cast<int>(std::max(lugares, 0L))).toDouble();
+}
+
+void UtilFormulario::AlPerderFoco(screen::TextBox& oControl, std::string_view sFormato) const {
+  oControl.BackColor = static_cast<screen::Color>(ColorNormal);
+  if (sFormato.empty() || oControl.Text().empty()) return;
+  oControl.Text = conMascara(oControl.Text(), sFormato);
+}
+
+void UtilFormulario::AlRecibirFoco(screen::TextBox& oControl, std::string_view /*sFormato*/) const {
+  oControl.BackColor = static_cast<screen::Color>(ColorFoco);
+}
+
+void UtilFormulario::AlCambiarTexto(screen::TextBox& oControl, ado::Variant& /*nEstado*/,
+                                    bool bFlag, const std::string& /*sVacio*/) const {
+  // A stored value that the program shows is never shortened: saving the form would lose it.
+  if (oControl.form().ActiveControl() != &oControl) return;
+  const std::string limpio =
+      depurado(oControl.Text(), bFlag, screen::currentRegional().decimalSeparator);
+  oControl.Text = limpio;
+}
+
+void UtilFormulario::FiltraTecla(const screen::TextBox& oControl, int& nTecla, bool bFlag) const {
+  if (nTecla < kPrimerCaracter || esDigito(nTecla)) return;
+  if (bFlag) {
+    if (nTecla != '/') nTecla = 0;
+    return;
+  }
+  const char separador = screen::currentRegional().decimalSeparator;
+  const bool esSeparador = nTecla == '.' || nTecla == separador;
+  const bool repetido =
+      restoDe(oControl).find(static_cast<char32_t>(separador)) != std::u32string::npos;
+  nTecla = esSeparador && !repetido ? separador : 0;
+}
+
+std::string UtilFormulario::BuscaEnLista(const std::string& sSql, const std::string& sOrden,
+                                         const std::string& sCol1, const std::string& sCol2,
+                                         const std::string& sTitulo, long nAncho1, long nAncho2,
+                                         long /*n0*/) const {
+  if (conexion_ == nullptr) throw ado::Error(0, "La búsqueda no tiene conexión a la base de datos");
+  const ado::Recordset filas = conexion_->Execute(sSql + " ORDER BY " + sOrden);
+  const std::size_t columnas = filas.Fields().Count();
+  if (columnas < 3) {
+    throw ado::Error(0, "La búsqueda necesita una columna de relleno, un código y un nombre", sSql);
+  }
+
+  screen::ListDialog lista{.title = sTitulo,
+                           .codeTitle = sCol1,
+                           .nameTitle = sCol2,
+                           .codeWidth = static_cast<int>(nAncho1),
+                           .nameWidth = static_cast<int>(nAncho2),
+                           .rows = {}};
+  lista.rows.reserve(filas.RecordCount());
+  for (std::size_t fila = 0; fila < filas.RecordCount(); ++fila) {
+    lista.rows.push_back({screen::CStr(filas.cell(fila, 1)), screen::CStr(filas.cell(fila, 2))});
+  }
+  const auto elegida = screen::Desktop::current().chooseFromList(lista);
+  if (!elegida) return {};
+
+  constexpr char kSeparador = 1;
+  std::string resultado = screen::CStr(filas.cell(*elegida, 0));
+  for (std::size_t columna = 1; columna < columnas; ++columna) {
+    resultado += kSeparador + screen::CStr(filas.cell(*elegida, columna));
+  }
+  return resultado;
+}
+
+}  // namespace korvantes::plindor
