@@ -34,10 +34,11 @@ class TextBox : public Control {
   /// An assignment by the program raises Change as typing does, is never cut, and puts the caret
   /// at the end.
   Property<std::string> Text{*this, "Text"};
-  /// 0 is unlimited. Limits what is typed or pasted.
+  /// 0 is unlimited. Limits what is typed or pasted by the user.
   Property<int> MaxLength{*this, "MaxLength"};
   Property<bool> Locked{*this, "Locked", false};  ///< read-only for the user
   Property<Alignment> TextAlignment{*this, "Alignment"};
+  /// Setting SelStart takes the selection away; both keep within the text.
   Property<int> SelStart{*this, "SelStart"}, SelLength{*this, "SelLength"};
 
   std::function<void()> Change;
@@ -46,7 +47,13 @@ class TextBox : public Control {
   std::function<void(int& character)> KeyPress;
 
  private:
+  friend class TextEditor;
   void propertyChanged(const PropertyBase& property) override;
+  void select(int start, int length, bool caretFirst = false);
+
+  std::optional<int> caretAfterEdit_;  ///< where the user's edit leaves the caret
+  bool caretFirst_ = false;            ///< the caret stands before the selection, not behind it
+  bool changeHeld_ = false;            ///< Change comes later, once for several edits
 };
 
 /// Value 0 or 1. A change of Value raises Click, whoever made it.
@@ -82,6 +89,8 @@ class ComboBox : public Control {
   /// std::out_of_range.
   Property<int> ListIndex{*this, "ListIndex", -1};
   Property<int> ListCount{*this, "ListCount", 0};
+  /// On a list without typing, an assignment selects the entry of that text; a text that is no
+  /// entry is a std::invalid_argument. On the other kind it deselects, without Click.
   Property<std::string> Text{*this, "Text"};
 
   void AddItem(std::string entry);
@@ -91,8 +100,16 @@ class ComboBox : public Control {
   std::function<void()> Change;  ///< the text was typed over
 
  private:
+  friend class UserInput;
   void propertyChanged(const PropertyBase& property) override;
+  void indexAssigned();
+  void textAssigned();
+  void show(int entry, std::string text);
+  void typeOver(std::string text);
+
   std::vector<std::string> list_;
+  int selected_ = -1;  ///< the ListIndex and the text in force
+  std::string shownText_;
 };
 
 /// A push button with a picture: the screens' only kind of button.

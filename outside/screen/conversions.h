@@ -12,6 +12,7 @@ namespace korvantes::screen {
 /// Conversions between values and the texts on the screen, as the runtime makes them. Where no
 /// regional settings are given, those of the current desktop apply.
 
+/// Those of the current desktop; the machine's while there is none.
 const Regional& currentRegional();
 
 /// True for a day that exists: dd/mm/yyyy, also one-digit days and months, two-digit years (00 to
@@ -23,8 +24,9 @@ std::optional<ado::Date> toDate(std::string_view text);
 
 /// True for what toNumber accepts. The empty text is no number.
 bool IsNumeric(std::string_view text, const Regional& regional = currentRegional());
-/// Reads a number: sign, digits, thousands separators between digits before the decimal
-/// separator, exponent; blanks around are allowed. Nothing for any other text.
+/// Reads a number: sign, digits, thousands separators before each group of three digits in front of
+/// the decimal separator, exponent; blanks around are allowed. Nothing for any other text: a
+/// separator elsewhere ("12.5" in Spanish) is refused rather than read as ten times the number.
 std::optional<double> parseNumber(std::string_view text,
                                   const Regional& regional = currentRegional());
 /// The same; throws ado::ConversionError ("«abc» no es un número").

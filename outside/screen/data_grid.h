@@ -49,7 +49,13 @@ class DataGrid : public Control {
   std::function<void(int columnIndex)> ButtonClick;
 
  private:
+  friend class UserInput;
+  /// Tells the face when the recordset's current row is another one than the face was told last.
+  void noticeMove();
+
   ado::Recordset source_;
+  std::optional<std::size_t> noticedRow_;
+  std::size_t noticedCount_ = 0;
   std::vector<Column> columns_;
 };
 

@@ -19,7 +19,8 @@ class FormObserver {
   /// A property of the form (control nullptr) or of a control changed.
   virtual void propertyChanged(Control* control, const PropertyBase& property) = 0;
   /// Rows were added, removed, ticked or sorted (list), or the recordset or columns were replaced
-  /// (grid), or the entries changed (combo box).
+  /// (grid), or its current row moved, or the entries changed (combo box). Read the rows when the
+  /// running event has ended: a row just added is not filled yet.
   virtual void rowsChanged(Control& control) = 0;
   virtual void activeControlChanged() = 0;
   virtual void unloaded() = 0;
@@ -74,13 +75,18 @@ class Form : public PropertyOwner {
   friend class Control;
   friend class UserInput;
   void propertyChanged(const PropertyBase& property) override;
+  void load();
+  std::vector<Control*> tabOrder() const;
 
   std::string name_;
   bool loaded_ = false;
+  bool showing_ = false;  ///< the first control got its focus
   std::vector<Control*> controls_;
   Control* active_ = nullptr;
   Control* wanted_ = nullptr;  ///< SetFocus inside a handler
+  Control* held_ = nullptr;    ///< Space went down on it and is not released yet
   int handlerDepth_ = 0;
+  int leavingDepth_ = 0;  ///< above 0 while LostFocus runs
   FormObserver* observer_ = nullptr;
 };
 

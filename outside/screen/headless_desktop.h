@@ -47,7 +47,8 @@ class HeadlessDesktop : public Desktop {
   void stroke(const Key& key);
   /// Types a text key by key.
   void type(std::string_view text);
-  /// Runs what is queued: keys sent, releases of the Enter that closed a dialog.
+  /// Runs what is queued: keys sent, releases of the Enter that closed a dialog. After stroke and
+  /// type this has happened already.
   void settle();
 
   void showModal(Form& form) override;
@@ -68,6 +69,9 @@ class HeadlessDesktop : public Desktop {
     bool release = false;
   };
   void run(const Queued& queued);
+  void close(Form& form);
+  template <class T>
+  T answered(const Reply<T>& reply);
 
   std::vector<Form*> forms_;
   std::deque<Queued> queue_;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,8 +60,11 @@ class ListView : public Control {
   std::function<void(int& cancel)> BeforeLabelEdit;
 
  private:
+  friend class UserInput;
   void propertyChanged(const PropertyBase& property) override;
   void sortIfNeeded() const;
+  std::optional<std::size_t> placeOf(const ListItem& wanted) const;
+  void rowsChanged();
 
   std::deque<ListItem> items_;
   mutable std::vector<std::size_t> order_;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "outside/screen/form.h"
@@ -14,7 +15,9 @@ namespace key {
 constexpr int Back = 8, Tab = 9, Enter = 13, Shift = 16, Control = 17, Alt = 18, Escape = 27;
 constexpr int Space = 32, PageUp = 33, PageDown = 34, End = 35, Home = 36;
 constexpr int Left = 37, Up = 38, Right = 39, Down = 40, Insert = 45, Delete = 46;
-constexpr int KeypadDecimal = 110, F1 = 112, F2 = 113, F12 = 123, Comma = 188;
+constexpr int KeypadDecimal = 110, F1 = 112, F2 = 113, F4 = 115, F12 = 123, Comma = 188;
+/// A character that has no key code of its own.
+constexpr int Packet = 231;
 /// Bits of the shift state.
 constexpr int ShiftBit = 1, ControlBit = 2, AltBit = 4;
 }  // namespace key
@@ -32,17 +35,21 @@ struct Key {
 ///   inside LostFocus is honoured when that handler has ended, and the control first aimed at never
 ///   gets the focus; what was to follow there (the click on a button) falls away.
 /// - a key press in a text box: KeyPress, then the text, then Change. Enter on a button clicks it.
-///   Tab moves the focus, with Shift backward.
-/// - a key release: the form's KeyUp when it previews keys, then the control's.
+///   Tab moves the focus, with Shift backward; Alt and a letter is an access key. Arrows move
+///   within lists, grids and groups of option buttons, Space ticks the row with the cursor.
+/// - a key release: the form's KeyUp when it previews keys, then the control's, unless the form set
+///   the code to 0. The release of Space clicks the button, check box or option button on which it
+///   was pressed.
 /// - a click: the focus moves first, then the control changes, then Click.
 ///
 /// When the outermost handler has ended, a SetFocus made in it is carried out; then, if the control
 /// with the focus cannot hold it any longer (hidden, disabled), the focus moves on to the next tab
-/// stop.
+/// stop. While LostFocus runs no control has the focus: a key that comes in between reaches the
+/// form alone.
 ///
-/// An exception that leaves a handler becomes a critical message box with its words; the form stays
-/// usable. Nothing happens on a control that is not usable: the functions then give False. A form
-/// unloaded inside a handler takes no further events.
+/// An exception that leaves a handler becomes a critical message box with its words, under the
+/// form's caption; the form stays usable. Nothing happens on a control that is not usable: the
+/// functions then give False. A form unloaded inside a handler takes no further events.
 class UserInput {
  public:
   explicit UserInput(Form& form) : form_(form) {}
@@ -76,9 +83,21 @@ class UserInput {
   void close();
 
  private:
+  bool run(const std::function<void()>& handler);
   bool event(const std::function<void()>& handler);
-  void settleFocus();
-  bool typeCharacter(TextBox& box, char32_t character);
+  bool giveFocus(Control& target);
+  bool focusFor(Control& control);
+  void focusLost(Control& old);
+  void settle();
+  void typeOver(ComboBox& combo, std::string text);
+  void tabKey(bool backward);
+  bool chordKey(const Key& key);
+  void controlKey(Control& control, const Key& key);
+  void comboKey(ComboBox& combo, const Key& key);
+  void listKey(ListView& list, const Key& key);
+  void gridKey(DataGrid& grid, const Key& key);
+  void optionKey(OptionButton& option, const Key& key);
+  friend class TextEditor;
   Form& form_;
 };
 
