@@ -1,0 +1,102 @@
+#include <fstream>
+#include <sys/stat.h>
+
+#include "engines/sqlite/sqlite_connection.h"
+#include "tests/sqlite/engine_fixture.h"
+
+namespace korvantes::testing_engines {
+namespace {
+
+using sqlite::OpenOptions;
+using sqlite::SqliteConnection;
+namespace fs = std::filesystem;
+
+const OpenOptions kCreate{true, 20};
+
+class SqliteFileTest : public testing::Test {
+ protected:
+  void refuse(const std::string& path, OpenOptions options = {}) {
+    try {
+      const SqliteConnection connection(path, options);
+      ADD_FAILURE() << "opened " << path;
+    } catch (const ado::Error& error) {
+      EXPECT_NE(std::string(error.what()), "");
+    }
+  }
+  TemporaryFolder folder_;
+  std::string path_ = folder_.at("empresa.db");
+};
+
+TEST_F(SqliteFileTest, BothFilesAreTheirOwnersAlone) {
+  SqliteConnection connection(path_, kCreate);
+  EXPECT_FALSE(connection.hasTables());
+  makeTables(connection);
+  EXPECT_TRUE(connection.hasTables());
+  connection.Execute("insert into Vespara.dbo.PAIS values (724, 'España')");
+  for (const char* name : {"empresa.db", "empresa.db.vespara", "empresa.db-wal"}) {
+    struct stat state {};
+    ASSERT_EQ(::stat(folder_.at(name).c_str(), &state), 0) << name;
+    EXPECT_EQ(state.st_mode & 0777U, 0600U) << name;
+  }
+}
+
+TEST_F(SqliteFileTest, AFileBringsItsTypesWhenItIsOpenedAgain) {
+  {
+    SqliteConnection connection(path_, kCreate);
+    makeTables(connection);
+    connection.Execute("insert into Age (AGE_ID, AGE_COM) values (1, 2.5)");
+  }
+  SqliteConnection connection(path_);
+  EXPECT_EQ(rowsOf(connection.Execute("select age_com from age")),
+            std::vector<std::string>{"2.500"});
+  EXPECT_THROW(connection.Execute("create table AGE (Age_Id int null)"), ado::Error);
+}
+
+TEST_F(SqliteFileTest, WhatIsMissingIsNotMadeUnlessAsked) {
+  refuse(path_);
+  EXPECT_FALSE(fs::exists(path_));
+  refuse(folder_.at("no/hay/empresa.db"), kCreate);
+  refuse(folder_.at(""), kCreate);
+}
+
+TEST_F(SqliteFileTest, WithoutItsPartnerTheCompanysTablesStillWork) {
+  {
+    SqliteConnection connection(path_, kCreate);
+    makeTables(connection);
+  }
+  fs::remove(path_ + ".vespara");
+  SqliteConnection connection(path_);
+  EXPECT_EQ(connection.Execute("select * from Lca").RecordCount(), 0U);
+  EXPECT_THROW(connection.Execute("select * from Vespara.dbo.PAIS"), ado::Error);
+  EXPECT_THROW(connection.Execute("create table Vespara.dbo.Otra (Id int null)"), ado::Error);
+  EXPECT_FALSE(fs::exists(path_ + ".vespara"));
+}
+
+TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
+  std::ofstream(folder_.at("ajeno")).flush();
+  fs::create_symlink("ajeno", path_);
+  refuse(path_, kCreate);
+  refuse(path_);
+  fs::remove(path_);
+  fs::create_symlink("ajeno", path_ + ".vespara");
+  refuse(path_, kCreate);
+  EXPECT_EQ(fs::file_size(folder_.at("ajeno")), 0U);
+  // A link on the way there is the user's own way of arranging folders.
+  fs::create_directory(folder_.at("datos"));
+  fs::create_directory_symlink("datos", folder_.at("enlace"));
+  SqliteConnection(folder_.at("enlace/empresa.db"), kCreate);
+  EXPECT_TRUE(fs::exists(folder_.at("datos/empresa.db")));
+}
+
+TEST_F(SqliteFileTest, WhatIsNoDatabaseIsLeftAsItIs) {
+  std::ofstream(path_) << std::string(5000, 'x');
+  refuse(path_);
+  EXPECT_EQ(fs::file_size(path_), 5000U);
+  ASSERT_EQ(::mkfifo(folder_.at("tubo").c_str(), 0600), 0);
+  refuse(folder_.at("tubo"));
+  fs::create_directory(folder_.at("carpeta"));
+  refuse(folder_.at("carpeta"), kCreate);
+}
+
+}  // namespace
+}  // namespace korvantes::testing_engines

@@ -1,0 +1,47 @@
+#include "tests/sqlite/engine_fixture.h"
+
+namespace korvantes::testing_engines {
+namespace {
+
+class IdentityTest : public EngineTest {
+ protected:
+  std::string newest() {
+    run("insert into Lca (Lca_IdAg, Lca_Base) values (7, 1.5)");
+    return cell("Select max(Lca_id) from Lca");
+  }
+};
+
+TEST_P(IdentityTest, NumbersCountUpAndAreNeverUsedTwice) {
+  EXPECT_EQ(newest(), "1");
+  EXPECT_EQ(newest(), "2");
+  EXPECT_EQ(newest(), "3");
+  run("delete from Lca where Lca_Id=3");
+  EXPECT_EQ(newest(), "4");
+  run("delete from Lca");
+  connection_.reset();
+  connection_ = connect();
+  EXPECT_EQ(newest(), "5");
+}
+
+TEST_P(IdentityTest, TheNumberCannotBeGivenOrChanged) {
+  newest();
+  failure("insert into Lca (Lca_Id, Lca_IdAg) values (50, 7)");
+  failure("update Lca set Lca_Id = 50 where Lca_Id = 1");
+  EXPECT_EQ(newest(), "2");
+}
+
+TEST_P(IdentityTest, NoNoteIsInTwoSettlements) {
+  run("insert into Lcd (Lcd_IdLca, Lcd_IdCav) values (1, 33)");
+  connection_->BeginTrans();
+  newest();
+  failure("insert into Lcd (Lcd_IdLca, Lcd_IdCav) values (2, 33)");
+  EXPECT_TRUE(connection_->inTransaction());
+  connection_->RollbackTrans();
+  EXPECT_EQ(rows("select * from Lcd"), std::vector<std::string>{"1|33"});
+  EXPECT_EQ(cell("select count(*) from Lca"), "0");
+}
+
+KORVANTES_ON_EACH_ENGINE(IdentityTest);
+
+}  // namespace
+}  // namespace korvantes::testing_engines

@@ -1,0 +1,92 @@
+#include "tests/sqlite/engine_fixture.h"
+
+namespace korvantes::testing_engines {
+namespace {
+
+class UpdateTest : public EngineTest {
+ protected:
+  UpdateTest() {
+    run("insert into Age (AGE_ID, AGE_NOM, AGE_CP, AGE_COM) values (7, 'Uno', '28001', 2.5)");
+    run("insert into Age (AGE_ID, AGE_NOM) values (8, 'Dos')");
+  }
+};
+
+TEST_P(UpdateTest, APictureGoesInAndComesBack) {
+  ado::Bytes picture(300'000);
+  for (std::size_t i = 0; i < picture.size(); ++i) picture[i] = static_cast<std::byte>(i * i >> 3U);
+  auto row = connection_->OpenForUpdate("select * from AGE where AGE_ID= 7");
+  EXPECT_TRUE(row.Collect("AGE_IMG").isNull());
+  row.Collect("AGE_IMG", picture);
+  row.Update();
+  EXPECT_EQ(run("select AGE_IMG from AGE where AGE_ID= 7").Fields(0).Value().bytes(), picture);
+  row.Collect("age_img", ado::Bytes());
+  row.Update();
+  EXPECT_EQ(cell("select AGE_IMG from AGE where AGE_ID= 7"), "0 bytes");
+  row.Collect("AGE_IMG", ado::Variant());
+  row.Update();
+  EXPECT_EQ(rows("select AGE_ID,AGE_NOM,AGE_COM,AGE_IMG from AGE order by AGE_ID"),
+            (std::vector<std::string>{"7|Uno|2.500|NULL", "8|Dos|NULL|NULL"}));
+}
+
+TEST_P(UpdateTest, EveryTypeIsStoredAsItsColumnHoldsIt) {
+  run("insert into Lca (Lca_IdAg) values (7)");
+  auto row = connection_->OpenForUpdate("select * from Lca where Lca_Id = 1");
+  row.Collect("Lca_Fecha", ado::Date{2026, 2, 28});
+  row.Collect("Lca_Cob", true);
+  row.Collect("Lca_Base", 1.00005);
+  row.Collect("Lca_PorIva", ado::Decimal(21005, 3));
+  row.Collect("Lca_Obs", "l'Eixample\n");
+  row.Update();
+  EXPECT_EQ(cell("select Lca_Fecha,Lca_Cob,Lca_Base,Lca_PorIva,Lca_Obs,Lca_Iva from Lca"),
+            "28/02/2026|1|1.0001|21.01|l'Eixample\n|NULL");
+  row.Collect("Lca_PorIva", 1000.0);
+  EXPECT_THROW(row.Update(), ado::Error);
+  row.CancelUpdate();
+  row.Collect("Lca_Id", 5);
+  EXPECT_THROW(row.Update(), ado::Error);
+  row.CancelUpdate();
+  EXPECT_EQ(cell("select Lca_Id,Lca_PorIva from Lca"), "1|21.01");
+}
+
+TEST_P(UpdateTest, TheRowIsFoundAgainByItsWholeKey) {
+  run("insert into Vespara.dbo.situaciones values (3, 0, 1, 'General')");
+  run("insert into Vespara.dbo.situaciones values (3, 1, 1, 'Inglés')");
+  auto row =
+      connection_->OpenForUpdate("select * from Vespara.dbo.situaciones where Sit_Idioma = 1");
+  row.Collect("Sit_Cod", 2);
+  row.Update();
+  row.Collect("Sit_Des", "English");
+  row.Update();  // by the new key
+  EXPECT_EQ(rows("select Sit_Idioma,Sit_Cod,Sit_Des from Vespara.dbo.situaciones order by 1"),
+            (std::vector<std::string>{"0|1|General", "1|2|English"}));
+}
+
+TEST_P(UpdateTest, TakesPartInTheTransactionAndMissesADeletedRow) {
+  connection_->BeginTrans();
+  auto row = connection_->OpenForUpdate("select * from AGE where AGE_ID= 7");
+  row.Collect("AGE_NOM", "Otro");
+  row.Update();
+  connection_->RollbackTrans();
+  EXPECT_EQ(cell("select AGE_NOM from AGE where AGE_ID = 7"), "Uno");
+  run("delete from AGE where AGE_ID = 7");
+  row.Collect("AGE_NOM", "Nadie");
+  EXPECT_THROW(row.Update(), ado::Error);
+}
+
+TEST_P(UpdateTest, RefusesWhatIsNotOneTableWithItsKey) {
+  for (const char* statement :
+       {"select * from Lca inner join Age on Age_Id = Lca_IdAg", "select AGE_NOM from AGE",
+        "update AGE set AGE_NOM = 'x'", "select * from NoHay"}) {
+    EXPECT_THROW(connection_->OpenForUpdate(statement), ado::Error) << statement;
+  }
+  EXPECT_TRUE(connection_->OpenForUpdate("select * from AGE where AGE_ID= 99").isEOF());
+  auto row = connection_->OpenForUpdate("select * from AGE where AGE_ID= 7");
+  connection_.reset();
+  row.Collect("AGE_NOM", "tarde");
+  EXPECT_THROW(row.Update(), ado::Error);
+}
+
+KORVANTES_ON_EACH_ENGINE(UpdateTest);
+
+}  // namespace
+}  // namespace korvantes::testing_engines
