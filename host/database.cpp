@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 #include "data/schema.h"
@@ -19,8 +18,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view kSqlite = "sqlite:";
 constexpr std::string_view kOdbc = "odbc:";
 constexpr const char* kSampleFile = "muestra.db";
-/// What a database file begins with; an empty file is an empty database.
-constexpr std::string_view kFileMark{"SQLite format 3\0", 16};
 
 /// $XDG_DATA_HOME, or ~/.local/share; a relative path in the variable does not count.
 fs::path dataFolder() {
@@ -40,27 +37,6 @@ void makePrivateFolder(const fs::path& folder) {
   if (error)
     throw Failure("no se puede crear la carpeta " + inQuotes(folder.string()) + ": " +
                   systemWords(error));
-}
-
-/// What the engine would only tell in its own language, or not at all.
-void checkFile(const std::string& path, OpenMode mode) {
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  const auto refuse = [&path](const std::string& words) -> void {
-    throw Failure("no se puede abrir la base " + inQuotes(path) + ": " + words);
-  };
-  if (!fs::exists(status)) {
-    if (error && error != std::errc::no_such_file_or_directory) refuse(systemWords(error));
-    if (mode == OpenMode::Existing) refuse("no existe");
-    return;
-  }
-  if (fs::is_directory(status)) refuse("es una carpeta");
-  if (!fs::is_regular_file(status)) refuse("no es un fichero");
-  std::ifstream file(path, std::ios::binary);
-  if (!file) refuse(systemWords(std::error_code(errno, std::generic_category())));
-  std::string mark(kFileMark.size(), '\0');
-  file.read(mark.data(), static_cast<std::streamsize>(mark.size()));
-  if (file.gcount() > 0 && mark != kFileMark) refuse("no es una base de datos");
 }
 
 /// After a failure that is the one to be told: a failure of the rollback itself is not.
@@ -85,7 +61,6 @@ Database openSample(OpenMode mode) {
 }  // namespace
 
 Database openFile(const std::string& path, OpenMode mode) {
-  checkFile(path, mode);
   sqlite::OpenOptions options;
   options.create = mode == OpenMode::Create;
   auto connection = std::make_shared<sqlite::SqliteConnection>(path, options);

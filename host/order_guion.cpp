@@ -16,6 +16,9 @@ namespace {
 
 /// The time of day that a fixed clock shows.
 constexpr int kNoon = 12 * 60 * 60;
+/// The day on which the sample settlement is made, whatever the machine's clock says: the rates in
+/// force and the dates that are accepted depend on it.
+constexpr ado::Date kSampleToday = {2026, 7, 1};
 constexpr screen::ProgramVersion kVersion = {KORVANTES_VERSION_NUMBERS};
 
 /// Throws Failure when lines of the script could not be done.
@@ -53,7 +56,9 @@ void playSampleSettlement(const CommandLine& line, Streams streams) {
   const TemporaryFolder folder;
   const Database database = openFile((folder.path() / "muestra.db").string(), OpenMode::Create);
   createTables(database, loadSampleData);
-  play(kSampleSettlement, line, database, streams.out);
+  CommandLine sampleLine = line;
+  if (!sampleLine.today) sampleLine.today = kSampleToday;
+  play(kSampleSettlement, sampleLine, database, streams.out);
 }
 
 }  // namespace korvantes::host
