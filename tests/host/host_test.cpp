@@ -1,0 +1,205 @@
+#include "host/host.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "host/database.h"
+#include "host/temporary_folder.h"
+
+namespace korvantes::host {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+  int status;
+  std::string out, err;
+};
+
+/// Runs the program in this process, with a data folder of its own.
+class HostTest : public testing::Test {
+ protected:
+  HostTest() { ::setenv("XDG_DATA_HOME", (folder_.path() / "datos").c_str(), 1); }
+  ~HostTest() override { ::unsetenv("XDG_DATA_HOME"); }
+
+  Outcome run(const std::vector<std::string>& arguments, const std::string& input = "") {
+    std::istringstream in(input);
+    std::ostringstream out, err;
+    const int status = runHost(arguments, {in, out, err});
+    return {status, out.str(), err.str()};
+  }
+
+  std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  std::string url(const char* name = "base.db") const { return "sqlite:" + path(name); }
+  std::string write(const char* name, const std::string& text) const {
+    std::ofstream(path(name), std::ios::binary) << text;
+    return path(name);
+  }
+
+  /// One Spanish line behind the program's name, and nothing else.
+  void expectFailure(const std::vector<std::string>& arguments, const std::string& words) {
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.status, 1) << words;
+    EXPECT_EQ(outcome.out, "") << words;
+    EXPECT_EQ(outcome.err.rfind("korvantes-host: ", 0), 0U) << outcome.err;
+    EXPECT_NE(outcome.err.find(words), std::string::npos) << outcome.err;
+    EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << outcome.err;
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(HostTest, RefusesWhatItCannotDoInOneLine) {
+  write("texto.db", std::string(5000, 'x'));
+  fs::create_directory(path("carpeta"));
+  ASSERT_EQ(run({"--base", url(), "demo"}).status, 0);
+  const std::string base = url();
+  const struct {
+    std::vector<std::string> arguments;
+    const char* words;
+  } cases[] = {
+      {{"bailar"}, "no se conoce la orden «bailar»"},
+      {{""}, "la orden está vacía"},
+      {{"--base", base}, "hace falta una orden"},
+      {{"--base", base, "crear"}, "ya tiene tablas"},
+      {{"--base", base, "demo"}, "ya tiene tablas"},
+      {{"--base", base, "demo", "x"}, "demo: sobra «x»"},
+      {{"--base", url("no.db"), "sql"}, "no existe"},
+      {{"--base", url("carpeta"), "crear"}, "no es un fichero"},
+      {{"--base", url("texto.db"), "sql"}, "no es una base de datos"},
+      {{"--base", url("no/hay.db"), "crear"}, "no existe la carpeta"},
+      {{"--base", "sqlite:", "crear"}, "se espera sqlite:RUTA"},
+      {{"--base", base, "sql", "/no/hay.sql"}, "no se puede leer «/no/hay.sql»: no existe"},
+      {{"--base", base, "sql", path("carpeta")}, "es una carpeta"},
+      {{"--base", base, "guion", "/no/hay.guion"}, "no se puede leer «/no/hay.guion»: no existe"},
+      {{"--base", base, "guion"}, "guion: se espera un FICHERO"},
+      {{"--base", base, "comision", "3", "1"}, "se esperan tres números"},
+      {{"--base", base, "comision", "5", "1", "0"}, "«5» no es 2 (pedido) ni 3 (albarán)"},
+      {{"--base", base, "comision", "70000", "1", "0"}, "fuera de los límites, -32768 a 32767"},
+      {{"--base", base, "comision", "3", "uno", "0"}, "ID: «uno» no es un número entero"},
+      {{"--base", base, "comision", "3", "1", "2147483648"}, "IDLI: «2147483648» está fuera"},
+  };
+  for (const auto& each : cases) expectFailure(each.arguments, each.words);
+}
+
+TEST_F(HostTest, NeverEchoesAConnectionString) {
+  for (const char* base : {"odbc:Driver=X;UID=ana;PWD=secreto", "Driver=X;UID=ana;PWD=secreto"}) {
+    const Outcome outcome = run({"--base", base, "sql"}, "select 1;");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err.find("secreto"), std::string::npos);
+  }
+}
+
+TEST_F(HostTest, HelpsAndNamesItsVersion) {
+  EXPECT_EQ(run({"--version"}).out, "korvantes-host " KORVANTES_EXPECTED_VERSION "\n");
+  EXPECT_NE(run({"--ayuda"}).out.find("comision ORIGEN ID IDLI"), std::string::npos);
+}
+
+TEST_F(HostTest, MakesEmptyTablesOrSampleData) {
+  ASSERT_EQ(run({"--base", url("vacia.db"), "crear"}).status, 0);
+  EXPECT_EQ(run({"--base", url("vacia.db"), "sql"}, "select count(*) as n from Cav;").out,
+            "n\n0\n");
+  ASSERT_EQ(run({"--base", url(), "demo"}).status, 0);
+  EXPECT_EQ(run({"--base", url(), "sql"}, "select count(*) as n from Vespara.dbo.PROV;").out,
+            "n\n53\n");
+}
+
+TEST_F(HostTest, KeepsTheSampleDatabaseInAPrivateFolderOfTheUser) {
+  EXPECT_EQ(run({"comision", "3", "1", "0"}).out, "1,93\n");
+  EXPECT_EQ(fs::status(path("datos/korvantes")).permissions(), fs::perms::owner_all);
+  EXPECT_EQ(run({"sql"}, "update Lav set Lav_Comi = 0 where Lav_IdCav = 1\nGO\n").status, 0);
+  EXPECT_EQ(run({"comision", "3", "1", "0"}).out, "0\n");
+}
+
+TEST_F(HostTest, AnswersCommissionsInTheFormOfTheRegion) {
+  ASSERT_EQ(run({"--base", url(), "demo"}).status, 0);
+  const struct {
+    const char *origin, *header, *line, *regional, *printed;
+  } cases[] = {
+      {"3", "1", "0", "es-ES", "1,93\n"},     {"3", "1", "0", "en-US", "1.93\n"},
+      {"3", "99999999", "0", "es-ES", "0\n"}, {"2", "99999999", "0", "es-ES", "0\n"},
+      {"3", "0", "99999999", "es-ES", "0\n"}, {"3", "-1", "0", "es-ES", "0\n"},
+  };
+  for (const auto& each : cases)
+    EXPECT_EQ(run({"--base", url(), "--regional", each.regional, "comision", each.origin,
+                   each.header, each.line})
+                  .out,
+              each.printed)
+        << each.header;
+}
+
+TEST_F(HostTest, PrintsTheResultsOfStatementsUntilOneFails) {
+  const std::string script = write("sentencias.sql",
+                                   "-- tipos\n"
+                                   "CREATE TABLE T (a int NOT NULL PRIMARY KEY, b money NULL,\n"
+                                   "  c decimal(6,3) NULL, d date NULL, e varchar(20) NULL);\n"
+                                   "insert into T (a, b, c, d, e) values (1, 1234.56, 2.5, "
+                                   "'08/02/2026', 'a\tb\\')\n"
+                                   "GO\n"
+                                   "insert into T (a) values (2);\n"
+                                   "select a, B, c, d, e from T order by a;\n"
+                                   "select A from T where a = 7;\n"
+                                   "select * from NoHay;\n"
+                                   "delete from T;\n");
+  const Outcome outcome = run({"--base", url(), "crear"});
+  ASSERT_EQ(outcome.status, 0) << outcome.err;
+  const Outcome printed = run({"--base", url(), "sql", script});
+  EXPECT_EQ(printed.out,
+            "0 filas\n1 filas\n1 filas\n"
+            "a\tB\tc\td\te\n"
+            "1\t1234.5600\t2.500\t08/02/2026\ta\\tb\\\\\n"
+            "2\tNULL\tNULL\tNULL\tNULL\n"
+            "A\n");
+  EXPECT_EQ(printed.status, 1);
+  EXPECT_NE(printed.err.find("sentencia 6: "), std::string::npos) << printed.err;
+  EXPECT_NE(printed.err.find("NoHay"), std::string::npos) << printed.err;
+  EXPECT_EQ(run({"--base", url(), "sql"}, "select count(*) as n from T;").out, "n\n2\n");
+}
+
+TEST_F(HostTest, LeavesNothingOfTablesThatCouldNotBeFilled) {
+  const Database database = openDatabase(url(), OpenMode::Create);
+  const auto failing = [](ado::Connection& connection) {
+    connection.Execute("insert into Age (AGE_ID) values (1)");
+    throw ado::Error(0, "disco lleno");
+  };
+  EXPECT_THROW(createTables(database, failing), ado::Error);
+  EXPECT_FALSE(database.hasTables());
+  EXPECT_TRUE(createTables(database));
+  EXPECT_FALSE(createTables(database));
+}
+
+TEST_F(HostTest, AScriptWithAnErrorEndsWithStatus1) {
+  ASSERT_EQ(run({"--base", url(), "demo"}).status, 0);
+  const Outcome good = run({"--base", url(), "guion", "-"}, "abrir liquidacion\nver foco\n");
+  EXPECT_EQ(good.out,
+            "> abrir liquidacion\n> ver foco\nfoco = Text1(0)\n[cerrado] frmNewLiquidAgentes\n");
+  EXPECT_EQ(good.status, 0) << good.err;
+  const Outcome bad = run({"--base", url(), "guion", "-"}, "abrir informe\nsql select 1 as n\n");
+  EXPECT_EQ(bad.out,
+            "> abrir informe\n[error] la pantalla todavía no existe\n"
+            "> sql select 1 as n\nn\n1\n");
+  EXPECT_EQ(bad.status, 1);
+  EXPECT_EQ(bad.err, "korvantes-host: el guion ha dado errores: 1 línea marcada con [error]\n");
+}
+
+TEST_F(HostTest, PlaysTheSampleSettlementAgainAndAgainOnABaseOfItsOwn) {
+  const Outcome first = run({});
+  EXPECT_EQ(first.status, 0) << first.err;
+  EXPECT_NE(first.out.find("concluido satisfactoriamente"), std::string::npos);
+  EXPECT_EQ(run({}).out, first.out);
+  EXPECT_FALSE(fs::exists(path("datos")));
+}
+
+TEST_F(HostTest, TellsWhenItsOutputIsLost) {
+  std::istringstream in;
+  std::ofstream out("/dev/full");
+  std::ostringstream err;
+  EXPECT_EQ(runHost({"--version"}, {in, out, err}), 1);
+  EXPECT_EQ(err.str(), "korvantes-host: no se ha podido escribir la salida\n");
+}
+
+}  // namespace
+}  // namespace korvantes::host
