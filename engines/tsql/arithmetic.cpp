@@ -201,7 +201,7 @@ ExpressionPtr average(ExpressionPtr sum, ExpressionPtr count) {
     return divided(std::move(sum), std::move(count), type);
   }
   const int scale = std::max(sum->type.scale, kQuotientDecimals);
-  const Type type = decimalResult(sum->type.precision - sum->type.scale + scale, scale);
+  const Type type = decimalType(kServerDigits, scale);
   return divided(std::move(sum), std::move(count), type);
 }
 

@@ -58,6 +58,9 @@ typed::Statement Binder::bind(const syntax::Statement& statement) {
 }
 
 const TableDefinition& Binder::tableOf(const syntax::TableName& name) const {
+  if (!name.database.empty() && !ado::sameName(name.database.text, kSharedDatabase)) {
+    refuse(Problem::NoDatabase, name.database.where, name.database.text);
+  }
   const auto* table = catalogue_.find(name.database.text, name.table.text);
   if (table == nullptr) refuse(Problem::NoTable, name.table.where, name.table.text);
   return *table;

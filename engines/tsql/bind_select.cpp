@@ -71,9 +71,8 @@ void unify(typed::Select& select, const syntax::Select& syntax) {
   for (std::size_t c = 1; c < select.cores.size(); ++c) {
     const auto where = syntax.cores[c].where;
     if (select.cores[c].items.size() != first.size()) {
-      refuse(Problem::ValueCount, where, {},
-             std::to_string(first.size()) + " columnas y " +
-                 std::to_string(select.cores[c].items.size()) + " en la otra parte del UNION");
+      refuse(Problem::UnionCount, where, {},
+             std::to_string(first.size()) + " y " + std::to_string(select.cores[c].items.size()));
     }
     for (std::size_t i = 0; i < first.size(); ++i) {
       const Type a = first[i].value->type;

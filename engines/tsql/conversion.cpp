@@ -132,8 +132,8 @@ std::optional<Type> commonType(const Type& a, const Type& b) {
       if (kind != TypeKind::Decimal) return a.kind == kind ? a : b;
       const int scale = std::max(a.scale, b.scale);
       constexpr int kServerDigits = 38;
-    const int whole = std::max(wholeDigits(a), wholeDigits(b));
-    return decimalType(std::min(whole + scale, kServerDigits), scale);
+      const int whole = std::max(wholeDigits(a), wholeDigits(b));
+      return decimalType(std::min(whole + scale, kServerDigits), scale);
     }
   }
   if (isText(a) && isText(b)) {

@@ -23,6 +23,8 @@ Words wordsOf(Problem problem) {
       return {102, "no se esperaba «{word}»"};
     case Problem::Expected:
       return {102, "se esperaba {detail} y no «{word}»"};
+    case Problem::Missing:
+      return {102, "falta {detail} al final de la sentencia"};
     case Problem::SecondStatement:
       return {102, "solo se admite una sentencia; sobra «{word}»"};
     case Problem::TooDeep:
@@ -67,6 +69,8 @@ Words wordsOf(Problem problem) {
       return {116, "la subconsulta debe dar una sola columna"};
     case Problem::ValueCount:
       return {213, "hay {detail}"};
+    case Problem::UnionCount:
+      return {205, "las partes del UNION tienen {detail} columnas"};
     case Problem::IdentityValue:
       return {544, "la columna «{word}» la numera la base de datos y no admite un valor"};
     case Problem::NullValue:

@@ -81,7 +81,8 @@ std::int64_t unitsFromText(std::string_view text, const Type& type) {
 }
 
 std::string isoFromText(std::string_view text) {
-  const auto date = ado::Date::parseDayFirst(text);
+  auto date = ado::Date::parseDayFirst(text);
+  if (!date) date = ado::Date::parseIso(text);
   if (!date) refuse(Problem::NoDate, {}, text);
   return date->iso();
 }

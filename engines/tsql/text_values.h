@@ -17,7 +17,8 @@ namespace korvantes::tsql {
 /// point. A blank text is 0, as the server has it, but for decimals an error.
 std::int64_t unitsFromText(std::string_view text, const Type& type);
 
-/// "yyyy-mm-dd" of a text dd/mm/yyyy; trailing blanks are allowed.
+/// "yyyy-mm-dd" of a text dd/mm/yyyy, trailing blanks allowed, or of one that has that form
+/// already.
 std::string isoFromText(std::string_view text);
 
 /// A number as the server writes it into a text type: whole numbers and decimals with all digits,

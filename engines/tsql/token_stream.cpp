@@ -75,6 +75,7 @@ syntax::LiteralValue TokenStream::literal(PieceKind kind, std::string_view what)
 }
 
 void TokenStream::refuseHere(std::string_view expected) const {
+  if (peek().kind == PieceKind::End) refuse(Problem::Missing, peek().where, {}, expected);
   refuse(Problem::Expected, peek().where, peek().word(), expected);
 }
 
