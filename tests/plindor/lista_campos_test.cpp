@@ -1,0 +1,141 @@
+#include "outside/plindor/lista_campos.h"
+
+#include <gmock/gmock.h>
+#include <limits>
+
+#include "outside/ado/error.h"
+#include "outside/screen/headless_desktop.h"
+
+namespace korvantes::plindor {
+namespace {
+
+using ado::Date;
+using ado::Decimal;
+using ado::Variant;
+using testing::StartsWith;
+
+struct ListaCamposTest : testing::Test {
+  ListaCamposTest() : former(screen::Desktop::makeCurrent(&desktop)) {
+    desktop.regional(screen::Regional::named("es-ES"));
+  }
+  ~ListaCamposTest() override { screen::Desktop::makeCurrent(former); }
+  screen::HeadlessDesktop desktop;
+  screen::Desktop* former;
+};
+
+std::string written(long type, const Variant& value, int places = 2) {
+  ListaCampos fields;
+  fields.AgregaCampo("C", type, value, places);
+  return fields.campos().at(0).valor;
+}
+
+struct Case {
+  long type;
+  Variant value;
+  const char* text;
+  int places = 2;
+};
+
+TEST_F(ListaCamposTest, WritesEachTypeAsTheStatementCarriesIt) {
+  const Case cases[] = {
+      {ListaCampos::Entero, 7, "7"},
+      {ListaCampos::Entero, "0042", "42"},
+      {ListaCampos::Entero, "7 ", "7"},
+      {ListaCampos::Entero, "-3", "-3"},
+      {ListaCampos::Entero, 12.0, "12"},
+      {ListaCampos::Entero, Decimal(70000, 4), "7"},
+      {ListaCampos::Entero, true, "1"},
+      {ListaCampos::Entero, std::int64_t{2147483647}, "2147483647"},
+      {ListaCampos::Doble, 1234.5, "1234.50"},
+      {ListaCampos::Doble, 1.005, "1.01"},
+      {ListaCampos::Doble, -0.001, "0.00"},
+      {ListaCampos::Doble, 99.9985, "99.999", 3},
+      {ListaCampos::Doble, "1.234,565", "1234.57"},
+      {ListaCampos::Doble, Decimal(12345, 3), "12.35"},
+      {ListaCampos::Doble, 18, "18.00"},
+      {ListaCampos::Texto, "Peña e Hijos", "'Peña e Hijos'"},
+      {ListaCampos::Texto, "", "''"},
+      {ListaCampos::Texto, 41, "'41'"},
+      {ListaCampos::Texto, 12.5, "'12.5'"},
+      {ListaCampos::Fecha, "28/02/2026", "'28/02/2026'"},
+      {ListaCampos::Fecha, "1/2/2026 ", "'01/02/2026'"},
+      {ListaCampos::Fecha, Date{2024, 2, 29}, "'29/02/2024'"},
+      {ListaCampos::Literal, "NULL", "Null"},
+  };
+  for (const Case& each : cases) {
+    EXPECT_EQ(written(each.type, each.value, each.places), each.text) << each.text;
+  }
+  for (const long type : {1L, 2L, 3L, 4L, 6L}) EXPECT_EQ(written(type, {}), "Null") << type;
+}
+
+TEST_F(ListaCamposTest, ReadsNumbersInTextsUnderTheCurrentRegionalSettings) {
+  desktop.regional(screen::Regional::named("en-US"));
+  EXPECT_EQ(written(ListaCampos::Doble, "1,234.5"), "1234.50");
+}
+
+TEST_F(ListaCamposTest, DoublesQuotesSoThatNoTextEndsItsLiteral) {
+  EXPECT_EQ(written(ListaCampos::Texto, "O'Neill"), "'O''Neill'");
+  EXPECT_EQ(written(ListaCampos::Texto, "'); DROP TABLE Lca; --"), "'''); DROP TABLE Lca; --'");
+  EXPECT_EQ(written(ListaCampos::Texto, "''"), "''''''");
+  EXPECT_THROW(written(ListaCampos::Texto, std::string("a\0b", 3)), ado::ConversionError);
+}
+
+struct Value {
+  long type;
+  Variant value;
+};
+
+TEST_F(ListaCamposTest, RefusesWhatIsNoneOfItsTypeAndNamesTheColumn) {
+  const Value cases[] = {
+      {ListaCampos::Entero, "7; DELETE FROM Lca"},
+      {ListaCampos::Entero, "7 OR 1=1"},
+      {ListaCampos::Entero, "7--"},
+      {ListaCampos::Entero, "0x10"},
+      {ListaCampos::Entero, "+5"},
+      {ListaCampos::Entero, ""},
+      {ListaCampos::Entero, "   "},
+      {ListaCampos::Entero, "12,5"},
+      {ListaCampos::Entero, 12.5},
+      {ListaCampos::Entero, Decimal(125, 1)},
+      {ListaCampos::Entero, "2147483648"},
+      {ListaCampos::Entero, "99999999999999999999999"},
+      {ListaCampos::Entero, 1e300},
+      {ListaCampos::Entero, Date{2026, 1, 1}},
+      {ListaCampos::Doble, "12'5"},
+      {ListaCampos::Doble, "abc"},
+      {ListaCampos::Doble, ""},
+      {ListaCampos::Doble, 1e30},
+      {ListaCampos::Doble, std::numeric_limits<double>::infinity()},
+      {ListaCampos::Doble, std::numeric_limits<double>::quiet_NaN()},
+      {ListaCampos::Doble, std::numeric_limits<std::int64_t>::max()},
+      {ListaCampos::Texto, ado::Bytes(3)},
+      {ListaCampos::Fecha, "31/02/2026"},
+      {ListaCampos::Fecha, "28022026"},
+      {ListaCampos::Fecha, "28/02/2026' OR '1'='1"},
+      {ListaCampos::Fecha, ""},
+      {ListaCampos::Literal, "GETDATE()"},
+      {ListaCampos::Literal, "Null, Lca_Obs = ''"},
+      {5, "x"},
+  };
+  for (const Value& each : cases) {
+    const auto value = each.value.kind() == Variant::Kind::Text ? each.value.text() : "";
+    try {
+      const std::string text = written(each.type, each.value);
+      ADD_FAILURE() << each.type << " took " << value << " as " << text;
+    } catch (const ado::ConversionError& error) {
+      EXPECT_THAT(error.what(), StartsWith("C: ")) << each.type << " " << value;
+    }
+  }
+}
+
+TEST_F(ListaCamposTest, TakesPlainNamesOfColumnsAlone) {
+  ListaCampos fields;
+  fields.AgregaCampo("Cav_DTO2", ListaCampos::Entero, 1, 2);
+  for (const char* name : {"", "a b", "a'", "a;b", "1a", "a=1", "ñ", "a--", "[a]"}) {
+    EXPECT_THROW(fields.AgregaCampo(name, ListaCampos::Entero, 1, 2), ado::ConversionError) << name;
+  }
+  EXPECT_EQ(fields.campos().size(), 1U);
+}
+
+}  // namespace
+}  // namespace korvantes::plindor

@@ -1,0 +1,229 @@
+#include "outside/plindor/util_formulario.h"
+
+#include <cmath>
+#include <gmock/gmock.h>
+#include <limits>
+
+#include "outside/screen/headless_desktop.h"
+#include "tests/support/recording_connection.h"
+
+namespace korvantes::plindor {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+struct OneBox : screen::Form {
+  OneBox() : Form("frmPrueba") { other.TabIndex = 1; }
+  screen::TextBox box{*this, "Text1", 0};
+  screen::TextBox other{*this, "Text1", 1};
+};
+
+struct UtilFormularioTest : testing::Test {
+  UtilFormularioTest() : former(screen::Desktop::makeCurrent(&desktop)) {
+    desktop.regional(screen::Regional::named("es-ES"));
+  }
+  ~UtilFormularioTest() override { screen::Desktop::makeCurrent(former); }
+
+  std::string masked(const char* text, const char* mask) {
+    form.box.Text = text;
+    util.AlPerderFoco(form.box, mask);
+    return form.box.Text();
+  }
+  /// What the filter makes of each key typed into the box, one after the other.
+  std::string typed(const char* keys, bool flag) {
+    form.box.Text = "";
+    for (const char* key = keys; *key != 0; ++key) {
+      int code = static_cast<unsigned char>(*key);
+      util.FiltraTecla(form.box, code, flag);
+      if (code != 0) form.box.Text = form.box.Text() + static_cast<char>(code);
+    }
+    return form.box.Text();
+  }
+
+  screen::HeadlessDesktop desktop;
+  screen::Desktop* former;
+  OneBox form;
+  UtilFormulario util;
+};
+
+TEST_F(UtilFormularioTest, RoundsTheDecimalThatIsMeantHalfAwayFromZero) {
+  const struct {
+    double value;
+    long places;
+    double rounded;
+  } cases[] = {{1.005, 2, 1.01},
+               {2.925, 2, 2.93},
+               {1.0049999, 2, 1.0},
+               {-0.005, 2, -0.01},
+               {-2.675, 2, -2.68},
+               {0.5, 0, 1},
+               {1.45, 1, 1.5},
+               {0.64 + 1.29, 2, 1.93},
+               {1e-300, 2, 0},
+               {1e-300, 18, 0},
+               {123.456, 12, 123.456},
+               {0, 2, 0},
+               {8123456789012.345, 2, 8123456789012.34},
+               {99999999999999.9, 9, 99999999999999.9},
+               {999999999999999.0, 2, 999999999999999.0},
+               {1234567890123457.0, 2, 1234567890123457.0},
+               {1e200, 2, 1e200},
+               {-1e15, 2, -1e15}};
+  for (const auto& each : cases) {
+    EXPECT_EQ(util.Redondea(each.value, each.places), each.rounded)
+        << each.value << " at " << each.places;
+  }
+  EXPECT_FALSE(std::signbit(util.Redondea(-0.004, 2)));
+  EXPECT_FALSE(std::signbit(util.Redondea(-0.0, 2)));
+  EXPECT_THROW(util.Redondea(std::numeric_limits<double>::quiet_NaN(), 2), ado::ConversionError);
+  EXPECT_THROW(util.Redondea(std::numeric_limits<double>::infinity(), 2), ado::ConversionError);
+  EXPECT_THROW(util.Redondea(1, -1), ado::ConversionError);
+}
+
+TEST_F(UtilFormularioTest, GivesTheOfficialLetterOfATaxNumber) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"12345678", "Z"}, {"00000000", "T"}, {"99999999", "R"},   {"00000023", "T"},
+      {"11111111", "H"}, {"1", "R"},        {"X1234567", "L"},   {"x1234567L", "L"},
+      {"Y1234567", "X"}, {"Z1234567", "R"}, {"12.345.678", "Z"}, {"123456789", ""},
+      {"", ""},          {"X", ""},         {"ABC", ""}};
+  for (const auto& [number, letter] : cases) {
+    EXPECT_EQ(util.LetraNif(number, ""), letter) << number;
+  }
+}
+
+TEST_F(UtilFormularioTest, WritesDatesInTheMask) {
+  const std::pair<const char*, const char*> cases[] = {{"24112026", "24/11/2026"},
+                                                       {"241126", "24/11/2026"},
+                                                       {"010129", "01/01/2029"},
+                                                       {"010130", "01/01/1930"},
+                                                       {"1/2/26", "01/02/2026"},
+                                                       {"1-2-2026", "01/02/2026"},
+                                                       {"01.02.2026", "01/02/2026"},
+                                                       {" 241126 ", "24/11/2026"},
+                                                       {"29022024", "29/02/2024"},
+                                                       {"31022026", "31022026"},
+                                                       {"31/02/2026", "31/02/2026"},
+                                                       {"2411202", "2411202"},
+                                                       {"241", "241"},
+                                                       {"99999999", "99999999"},
+                                                       {"", ""},
+                                                       {"ayer", "ayer"},
+                                                       {"24/11", "24/11"}};
+  for (const auto& [text, shown] : cases) EXPECT_EQ(masked(text, "dd/mm/yyyy"), shown) << text;
+}
+
+TEST_F(UtilFormularioTest, WritesNumbersInTheMaskUnderTheRegionalSettings) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"7,5", "7,500"},   {"7", "7,000"}, {"99,9995", "100,000"}, {"0", "0,000"},
+      {"siete", "siete"}, {"", ""},       {"7,5", "7,500"}};
+  for (const auto& [text, shown] : cases) EXPECT_EQ(masked(text, "0.000"), shown) << text;
+  EXPECT_EQ(masked("7,5", ""), "7,5");
+  desktop.regional(screen::Regional::named("en-US"));
+  EXPECT_EQ(masked("7.5", "0.000"), "7.500");
+}
+
+TEST_F(UtilFormularioTest, ColoursTheFieldByItsFocus) {
+  util.ColorFoco = 255;
+  util.ColorNormal = 65280;
+  util.AlRecibirFoco(form.box, "");
+  EXPECT_EQ(form.box.BackColor(), 255U);
+  util.AlPerderFoco(form.box, "dd/mm/yyyy");
+  EXPECT_EQ(form.box.BackColor(), 65280U);
+}
+
+TEST_F(UtilFormularioTest, LetsThroughTheKeysThatAFieldTakes) {
+  EXPECT_EQ(typed("a1'2;-3 /4.5,6", true), "123/456");
+  EXPECT_EQ(typed("a1'2;-3 /4.5,6", false), "1234,56");
+  EXPECT_EQ(typed(",5.", false), ",5");
+  desktop.regional(screen::Regional::named("en-US"));
+  EXPECT_EQ(typed("1,2.5.6", false), "12.56");
+  for (int key : {8, 9, 13, 27, 3, 22}) {
+    for (bool flag : {true, false}) {
+      int code = key;
+      util.FiltraTecla(form.box, code, flag);
+      EXPECT_EQ(code, key);
+    }
+  }
+}
+
+TEST_F(UtilFormularioTest, AllowsASecondSeparatorWhereItReplacesTheFirst) {
+  form.box.Text = "ñ1,5";
+  form.box.SelStart = 2;
+  form.box.SelLength = 1;
+  int key = '.';
+  util.FiltraTecla(form.box, key, false);
+  EXPECT_EQ(key, ',');
+  form.box.SelStart = 3;
+  key = '.';
+  util.FiltraTecla(form.box, key, false);
+  EXPECT_EQ(key, 0);
+}
+
+TEST_F(UtilFormularioTest, CleansTheFieldBeingEditedAndNoStoredValue) {
+  ado::Variant state = 5;
+  form.box.Text = "D-10115";
+  util.AlCambiarTexto(form.box, state, true, "");
+  EXPECT_EQ(form.box.Text(), "D-10115");
+
+  desktop.whileShown = [&](screen::Form& shown) {
+    form.box.SetFocus();
+    const std::tuple<const char*, bool, const char*> cases[] = {{"D-10115", true, "10115"},
+                                                                {"12,5", true, "125"},
+                                                                {"x12.5,3", false, "12,53"},
+                                                                {"12,5", false, "12,5"},
+                                                                {"", true, ""}};
+    for (const auto& [text, flag, left] : cases) {
+      form.box.Text = text;
+      util.AlCambiarTexto(form.box, state, flag, "");
+      EXPECT_EQ(form.box.Text(), left) << text;
+    }
+    shown.Unload();
+  };
+  form.Show();
+  EXPECT_EQ(state, ado::Variant(5));
+}
+
+TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
+  support::RecordingConnection connection;
+  const auto agents = support::resultOf(
+      {"k", "AGE_ID", "AGE_NOM"}, {0, 12, "Ana Ruiz", 0, 7, ado::Variant(), 0, 3, "Zoe Peña"});
+  connection.answer(agents);
+  connection.answer(agents);
+  util.Conexion(connection);
+  std::vector<std::string> shown;
+  std::optional<std::size_t> choice = 2;
+  desktop.onList = [&](const screen::ListDialog& list) {
+    shown = {list.title, list.codeTitle, list.nameTitle, std::to_string(list.codeWidth),
+             std::to_string(list.nameWidth)};
+    for (const auto& row : list.rows) shown.push_back(row.code + "=" + row.name);
+    return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{choice};
+  };
+  const auto search = [&] {
+    return util.BuscaEnLista("Select (0) as k ,AGE_ID,AGE_NOM FROM AGE", "AGE_NOM", "Codigo",
+                             "Nombre", "Buscar", 800, 6000, 0);
+  };
+  EXPECT_EQ(search(),
+            "0\x01"
+            "3\x01"
+            "Zoe Peña");
+  EXPECT_THAT(shown, ElementsAre("Buscar", "Codigo", "Nombre", "800", "6000", "12=Ana Ruiz",
+                                 "7=", "3=Zoe Peña"));
+  choice.reset();
+  EXPECT_EQ(search(), "");
+  EXPECT_EQ(connection.calls.at(1), "Select (0) as k ,AGE_ID,AGE_NOM FROM AGE ORDER BY AGE_NOM");
+}
+
+TEST_F(UtilFormularioTest, SaysWhyASearchCannotRun) {
+  const auto search = [&] { util.BuscaEnLista("Select 1", "1", "", "", "", 0, 0, 0); };
+  EXPECT_THROW(search(), ado::Error);
+  support::RecordingConnection connection;
+  connection.answer(ado::Error(208, "No existe la tabla Age"));
+  connection.answer(support::resultOf({"k", "c"}, {0, 1}));
+  util.Conexion(connection);
+  EXPECT_THAT(search, testing::ThrowsMessage<ado::Error>("No existe la tabla Age"));
+  EXPECT_THAT(search, testing::ThrowsMessage<ado::Error>(HasSubstr("un código y un nombre")));
+}
+
+}  // namespace
+}  // namespace korvantes::plindor
