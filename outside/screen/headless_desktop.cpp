@@ -53,8 +53,9 @@ void HeadlessDesktop::showModal(Form& form) {
   ++windowChanges_;
   UserInput(form).shown();
   while (form.loaded()) {
-    if (whileShown)
-      whileShown(form);
+    // A copy: the user may set another one while it plays.
+    if (const auto play = whileShown)
+      play(form);
     else
       UserInput(form).close();
   }

@@ -22,8 +22,9 @@ void report(const Form& form, const std::exception& problem) {
 
 }  // namespace
 
-/// Runs a handler. False when the form is not open, before or after.
-bool UserInput::run(const std::function<void()>& handler) {
+/// Runs a handler; a copy, as it may replace itself. False when the form is not open, before or
+/// after.
+bool UserInput::run(std::function<void()> handler) {
   if (!form_.loaded_) return false;
   const HandlerScope scope(form_.handlerDepth_);
   try {
@@ -57,6 +58,7 @@ void UserInput::settle() {
       break;
     }
   }
+  form_.wanted_ = nullptr;
   if (!form_.loaded_) return;
   for (Control* control : form_.controls_)
     if (control->kind() == Control::Kind::DataGrid) static_cast<DataGrid*>(control)->noticeMove();

@@ -83,7 +83,7 @@ class UserInput {
   void close();
 
  private:
-  bool run(const std::function<void()>& handler);
+  bool run(std::function<void()> handler);
   bool event(const std::function<void()>& handler);
   bool giveFocus(Control& target);
   bool focusFor(Control& control);

@@ -1,0 +1,181 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+#include "outside/ado/recordset.h"
+#include "tests/screen/sample_form.h"
+
+namespace korvantes::screen {
+namespace {
+
+TEST(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
+  SampleForm form;
+  ControlArray<TextBox> fields(form, "txtFields");
+  fields.add(0);
+  fields.add(7);
+  EXPECT_TRUE(fields.contains(7));
+  EXPECT_THROW(fields(3), std::out_of_range);
+  EXPECT_THROW(fields.add(7), std::logic_error);
+  EXPECT_EQ(form.findControl("TXTFIELDS(7)"), &fields(7));
+  EXPECT_EQ(form.findControl("txtFields"), nullptr);
+  EXPECT_EQ(form.findControl("cmdgrabar"), &form.button);
+}
+
+TEST(Controls, PrintTheirProperties) {
+  SampleForm form;
+  form.first.Text = "a\r\nb\"c";
+  form.first.TextFont = Font{12, true};
+  const std::pair<const char*, const char*> expected[] = {
+      {"text", "\"a\\nb\"c\""},    {"Visible", "True"},    {"MaxLength", "0"},
+      {"BACKCOLOR", "2147483653"}, {"Font", "12 negrita"}, {"Alignment", "0"}};
+  for (const auto& [name, text] : expected) {
+    const PropertyBase* property = form.first.findProperty(name);
+    ASSERT_NE(property, nullptr) << name;
+    EXPECT_EQ(property->print(), text) << name;
+  }
+  EXPECT_EQ(form.first.findProperty("ListIndex"), nullptr);
+  EXPECT_EQ(form.findProperty("Caption")->print(), "\"Muestra\"");
+}
+
+TEST(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
+  SampleForm form;
+  OptionButton yes(form, "Option1", 0), no(form, "Option1", 1);
+  int clicks = 0;
+  yes.Click = no.Click = [&] { ++clicks; };
+  form.first.Text = "x";
+  form.first.Text = "x";
+  form.check.Value = 1;
+  yes.Value = true;
+  no.Value = true;
+  EXPECT_FALSE(yes.Value());
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(form.log, (Log{"Text1(0) Change x", "Check1 Click"}));
+}
+
+TEST(ComboBoxes, SelectEntriesAndRefuseWhatIsNone) {
+  SampleForm form;
+  form.combo.AddItem("01 - Uno");
+  form.combo.AddItem("02 - Dos");
+  form.combo.ListIndex = 1;
+  EXPECT_EQ(form.combo.Text(), "02 - Dos");
+  EXPECT_THROW(form.combo.ListIndex = 9, std::out_of_range);
+  EXPECT_THROW(form.combo.Text = "03", std::invalid_argument);
+  EXPECT_EQ(form.combo.ListIndex(), 1);
+  EXPECT_EQ(form.combo.Text(), "02 - Dos");
+  form.combo.Text = "01 - Uno";
+  EXPECT_EQ(form.combo.ListIndex(), 0);
+  EXPECT_EQ(form.taken(), (Log{"cboPais Click", "cboPais Click"}));
+  form.combo.Clear();
+  EXPECT_EQ(form.combo.ListIndex(), -1);
+  EXPECT_EQ(form.combo.Text(), "");
+  EXPECT_EQ(form.combo.ListCount(), 0);
+  EXPECT_EQ(form.taken(), Log{});
+}
+
+TEST(ComboBoxes, TakeTypingWhereTheyAreEditable) {
+  Stage stage;
+  SampleForm form;
+  form.combo.AddItem("01 - Uno");
+  form.combo.Change = [&] { form.log.push_back("Change " + form.combo.Text()); };
+  stage.play(form, [&] {
+    EXPECT_FALSE(stage.user().typeEntry(form.combo, "9"));
+    EXPECT_FALSE(stage.user().selectEntry(form.combo, 1));
+    form.combo.Editable = true;
+    EXPECT_TRUE(stage.user().selectEntry(form.combo, 0));
+    form.taken();
+    stage.press("Retroceso");
+    EXPECT_EQ(form.combo.ListIndex(), -1);
+    stage.user().typeEntry(form.combo, "1");
+    stage.type("2");
+    EXPECT_EQ(form.combo.Text(), "12");
+    EXPECT_THAT(form.log, testing::Contains("Change 12"));
+    EXPECT_THAT(form.log, testing::Not(testing::Contains("cboPais Click")));
+  });
+}
+
+/// A face that counts what it hears.
+struct Face : FormObserver {
+  void propertyChanged(Control* control, const PropertyBase& property) override {
+    heard.push_back((control != nullptr ? control->identity() : "form") + "." +
+                    std::string(property.name()));
+  }
+  void rowsChanged(Control& control) override { heard.push_back(control.identity() + " rows"); }
+  void activeControlChanged() override { heard.push_back("active"); }
+  void unloaded() override { heard.push_back("unloaded"); }
+  Log heard;
+};
+
+TEST(Faces, HearOfRealChangesAlone) {
+  SampleForm form;
+  Face face;
+  form.observe(&face);
+  form.Caption = "Muestra";
+  form.Caption = "Otra";
+  form.button.Enabled = true;
+  form.button.Enabled = false;
+  form.combo.AddItem("x");
+  EXPECT_EQ(face.heard,
+            (Log{"form.Caption", "cmdGrabar.Enabled", "cboPais.ListCount", "cboPais rows"}));
+  Stage stage;
+  stage.play(form, [&] {
+    face.heard.clear();
+    stage.user().moveFocus(form.list);
+  });
+  EXPECT_EQ(face.heard, (Log{"active", "unloaded"}));
+}
+
+TEST(DataGrids, ShareTheCurrentRowWithTheirRecordset) {
+  Stage stage;
+  SampleForm form;
+  DataGrid grid(form, "dbgLiqui");
+  Face face;
+  ado::Recordset rows;
+  rows.Fields().Append("Id", ado::FieldType::Integer);
+  rows.Fields().Append("Base", ado::FieldType::Double);
+  rows.Open();
+  for (const int id : {1, 2, 3}) {
+    rows.AddNew();
+    rows.Collect("Id", id);
+    if (id != 2) rows.Collect("Base", id * 1000.5);
+    rows.Update();
+  }
+  rows.MoveFirst();
+  int moves = 0;
+  std::vector<int> pressed;
+  grid.ButtonClick = [&](int column) { pressed.push_back(column); };
+  EXPECT_EQ(grid.RowCount(), 0U);
+  stage.play(form, [&] {
+    grid.DataSource(rows);
+    EXPECT_EQ(grid.Columns(1).Caption, "Base");
+    grid.Columns(1).NumberFormat = "#,##0.00";
+    EXPECT_EQ(grid.cellText(0, 1, stage.regional()), "1.000,50");
+    EXPECT_EQ(grid.cellText(1, 1, stage.regional()), "");
+    EXPECT_EQ(grid.cellText(2, 0, stage.regional()), "3");
+    rows.onMoveComplete([&] { ++moves; });
+    form.observe(&face);
+    EXPECT_TRUE(stage.user().selectRow(grid, 2));
+    EXPECT_FALSE(stage.user().selectRow(grid, 3));
+    EXPECT_EQ(rows.Collect("Id"), ado::Variant(std::int64_t{3}));
+    stage.press("Arriba");
+    EXPECT_EQ(rows.position(), 1U);
+    EXPECT_EQ(moves, 2);
+    face.heard.clear();
+    form.button.Click = [&] { rows.MoveFirst(); };
+    stage.user().click(form.button);
+    EXPECT_EQ(grid.currentRow(), 0U);
+    EXPECT_THAT(face.heard, testing::Contains("dbgLiqui rows"));
+    EXPECT_FALSE(stage.user().pressCellButton(grid, 1));
+    grid.Columns(1).Button = true;
+    EXPECT_TRUE(stage.user().pressCellButton(grid, 1));
+    EXPECT_FALSE(stage.user().pressCellButton(grid, 2));
+    rows.MoveLast();
+    rows.MoveNext();
+    EXPECT_FALSE(stage.user().pressCellButton(grid, 1));
+    EXPECT_EQ(pressed, (std::vector<int>{1}));
+    grid.DataSource(ado::Recordset());
+    EXPECT_EQ(grid.ColumnCount(), 0U);
+  });
+}
+
+}  // namespace
+}  // namespace korvantes::screen

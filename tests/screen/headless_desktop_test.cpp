@@ -1,0 +1,143 @@
+#include "outside/screen/headless_desktop.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+#include "tests/screen/sample_form.h"
+
+namespace korvantes::screen {
+namespace {
+
+/// A form that moves on with Enter as with Tab, save where the marker swallows one Enter.
+class MarkerForm : public SampleForm {
+ public:
+  MarkerForm() {
+    keyUp = [this](int& code) {
+      if (code == key::Enter && Tag().empty()) SendKeys("\t");
+      if (code == key::Enter) code = 0;
+      Tag = "";
+    };
+  }
+};
+
+TEST(HeadlessDesktop, SendsKeysBehindTheRunningEvent) {
+  Stage stage;
+  MarkerForm form;
+  stage.play(form, [&] {
+    stage.type("a\nb\n");
+    EXPECT_EQ(form.first.Text(), "a");
+    EXPECT_EQ(form.second.Text(), "b");
+    EXPECT_EQ(form.ActiveControl(), &form.check);
+  });
+}
+
+TEST(HeadlessDesktop, BringsTheReleaseOfTheEnterThatClosedAMessage) {
+  Stage stage;
+  stage.answerByEnter = true;
+  MarkerForm form;
+  form.also(form.first.LostFocus, [&] {
+    form.Tag = "e";
+    MsgBox("no existe");
+    form.first.SetFocus();
+    form.log.push_back("end");
+  });
+  stage.play(form, [&] {
+    stage.press("Tab");
+    EXPECT_EQ(form.taken(),
+              (Log{"Text1(0) LostFocus", "end", "Text1(0) GotFocus", "Form_KeyUp 13"}));
+    EXPECT_EQ(form.Tag(), "");
+    form.first.LostFocus = nullptr;
+    stage.press("Enter");
+    EXPECT_EQ(form.ActiveControl(), &form.second);
+  });
+}
+
+TEST(HeadlessDesktop, KeepsTheReleaseFromTheFormBelowWhenThePressOpenedOrClosedAWindow) {
+  Stage stage;
+  SampleForm below, above;
+  below.button.Click = [&] {
+    stage.whileShown = [&](Form& top) {
+      EXPECT_EQ(&top, &above);
+      EXPECT_EQ(stage.forms().size(), 2U);
+      stage.user().moveFocus(above.button);
+      above.log.clear();
+      stage.press("Enter");
+    };
+    above.button.Click = [&] { above.Unload(); };
+    above.Show();
+  };
+  std::vector<const Form*> closed;
+  stage.onClosed = [&](const Form& form) { closed.push_back(&form); };
+  stage.play(below, [&] {
+    stage.user().moveFocus(below.button);
+    below.log.clear();
+    stage.press("Enter");
+    EXPECT_EQ(above.log, (Log{"Form_Unload"}));
+    EXPECT_EQ(below.log, Log{});
+  });
+  EXPECT_EQ(closed, (std::vector<const Form*>{&above, &below}));
+  EXPECT_THROW(stage.user(), std::logic_error);
+}
+
+TEST(HeadlessDesktop, LeavesKeysNotTakenToTheFormBelow) {
+  Stage stage;
+  SampleForm below, above;
+  below.button.Click = [&] {
+    stage.whileShown = [&](Form&) {
+      stage.sendKeys("x");
+      above.Unload();
+      stage.settle();
+    };
+    above.Show();
+    below.second.SetFocus();
+  };
+  stage.play(below, [&] {
+    stage.user().click(below.button);
+    stage.settle();
+    EXPECT_EQ(below.second.Text(), "x");
+    EXPECT_EQ(above.first.Text(), "");
+  });
+}
+
+TEST(HeadlessDesktop, ClosesAFormWhoseUserFails) {
+  Stage stage;
+  SampleForm form;
+  stage.whileShown = [](Form&) { throw std::runtime_error("guion"); };
+  EXPECT_THROW(form.Show(), std::runtime_error);
+  EXPECT_FALSE(form.loaded());
+  EXPECT_TRUE(stage.forms().empty());
+  stage.whileShown = nullptr;
+  form.Show();  // without a user it closes at once
+  EXPECT_FALSE(form.loaded());
+}
+
+TEST(HeadlessDesktop, TakesDefaultsWhereNobodyAnswers) {
+  HeadlessDesktop desktop;
+  Desktop* const before = Desktop::makeCurrent(&desktop);
+  EXPECT_EQ(MsgBox("¿Seguro?", style::YesNo), Answer::Yes);
+  EXPECT_EQ(MsgBox("¿Seguro?", style::YesNo + style::DefaultSecond), Answer::No);
+  EXPECT_EQ(MsgBox("Hecho", style::Information), Answer::Ok);
+  EXPECT_FALSE(desktop.chooseFromList({}));
+  EXPECT_FALSE(desktop.chooseFile({}));
+  desktop.onList = [](const ListDialog&) {
+    return HeadlessDesktop::Reply<std::optional<std::size_t>>{2};
+  };
+  ListDialog dialog;
+  dialog.rows.resize(2);
+  EXPECT_THROW(desktop.chooseFromList(dialog), std::out_of_range);
+  Desktop::makeCurrent(before);
+}
+
+TEST(Desktop, IsNamedAsMissingWhereThereIsNone) {
+  Desktop* const before = Desktop::makeCurrent(nullptr);
+  EXPECT_THROW(Desktop::current(), std::logic_error);
+  {
+    Stage stage;
+    EXPECT_EQ(&Desktop::current(), &stage);
+  }
+  EXPECT_THROW(MsgBox("x"), std::logic_error);
+  Desktop::makeCurrent(before);
+}
+
+}  // namespace
+}  // namespace korvantes::screen
