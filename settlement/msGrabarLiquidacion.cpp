@@ -76,11 +76,11 @@ void frmNewLiquidAgentes::msGrabarLiquidacion() {
 
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
   const std::int32_t nLiquiAnterior = nLiqui;
+  // A transaction that somebody else has open is not ours to undo.
+  const bool bAjena = oDb->Conexion().inTransaction();
   std::int32_t nNueva = 0;
-  bool bEnTransaccion = false;
   try {
     oDb->Conexion().BeginTrans();
-    bEnTransaccion = true;
     if (nLiqui > 0) {
       borraLiquidacionAnterior(oDb->Conexion());
       nLiqui = 0;
@@ -93,7 +93,7 @@ void frmNewLiquidAgentes::msGrabarLiquidacion() {
     std::string texto = fallo.what();
     if (!dynamic_cast<const FalloAlGrabar*>(&fallo))
       texto = std::string("Error grabando la liquidacion:") + kSalto + texto;
-    if (bEnTransaccion) texto += deshace(oDb->Conexion());
+    if (!bAjena) texto += deshace(oDb->Conexion());
     aviso(*this, texto);
     return;
   }

@@ -1,0 +1,137 @@
+#include <gmock/gmock.h>
+#include <regex>
+#include <set>
+
+#include "tests/settlement/settlement_world.h"
+
+namespace korvantes::settlement {
+namespace {
+
+/// A statement without its values: quoted texts and numbers all look the same.
+std::string shapeOf(const std::string& statement) {
+  static const std::regex quoted("'([^']|'')*'"), number("-?[0-9]+([.][0-9]+)?");
+  return std::regex_replace(std::regex_replace(statement, quoted, "'T'"), number, "9");
+}
+
+std::set<std::string> shapes(const World& world) {
+  std::set<std::string> result;
+  for (const std::string& statement : world.connection->calls()) result.insert(shapeOf(statement));
+  return result;
+}
+
+constexpr const char* kHostile[] = {
+    "'",
+    "''",
+    "5' OR '1'='1",
+    "5 or 1=1",
+    "5;delete from Lca",
+    "5--",
+    "5/*",
+    "1,5",
+    "-5",
+    "0x5",
+    "5e0",
+    "999999999999999999999",
+    "007",
+    "0",
+    "31/02/2026",
+    "1'1'26",
+    "24/11/2026' OR 1=1 --",
+    "//",
+    "99999999",
+    "ñandú",
+    "\xC3",
+    "a\nb\tc",
+    "№①",
+};
+
+/// Settles one note, with these texts in the fields that go into statements. A wrong code or date
+/// is put right afterwards, as its user would.
+void settleWith(World& world, Screen& screen, const std::function<void(int, const char*)>& enter,
+                const char* text) {
+  for (int index : {0, 1, 4}) enter(index, text);
+  screen.click("cmbBuscarFacturas");
+  screen.paste(0, "5");
+  screen.paste(4, "");
+  screen.search("5", false, false);
+  for (int index : {2, 7}) enter(index, text);
+  screen.tick(screen.rowOf(1));
+  screen.click("cmdGrabar");
+  screen.type(2, "24112026");
+  screen.click("cmdGrabar");
+  ASSERT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
+}
+
+TEST(SettlementHostileInput, NothingTypedPastedOrSetChangesTheShapeOfAStatement) {
+  std::set<std::string> expected;
+  for (const char* limit : {"", "10/10/2026"}) {
+    World world;
+    world.show([&](Screen& screen) {
+      screen.click("Check1");
+      screen.paste(4, limit);
+      settleWith(
+          world, screen, [&](int index, const char* text) { screen.paste(index, text); },
+          "24/11/2026");
+      screen.search("5", true, false);
+      screen.desktop.stroke(*screen::keyNamed("F1"));
+    });
+    expected.merge(shapes(world));
+  }
+  ASSERT_GT(expected.size(), 10U);
+
+  for (const char* text : kHostile) {
+    SCOPED_TRACE(text);
+    for (const char* way : {"typed", "pasted", "set"}) {
+      SCOPED_TRACE(way);
+      World world;
+      world.show([&](Screen& screen) {
+        const auto enter = [&](int index, const char* value) {
+          if (way == std::string("typed"))
+            screen.type(index, value);
+          else if (way == std::string("pasted"))
+            screen.paste(index, value);
+          else
+            screen.text(index).Text = value;
+        };
+        settleWith(world, screen, enter, text);
+      });
+      for (const std::string& shape : shapes(world)) EXPECT_TRUE(expected.contains(shape)) << shape;
+      for (const std::string& message : world.messages)
+        EXPECT_THAT(message, testing::Not(testing::HasSubstr("Error"))) << message;
+    }
+  }
+}
+
+TEST(SettlementHostileInput, AWrongCodeOrLimitDateIsToldAndGetsTheFocusBeforeAnySearch) {
+  struct Case {
+    int index;
+    const char *text, *message;
+  };
+  const Case cases[] = {
+      {0, "1,5", "[48] KORVANTES | El código de agente no es válido"},
+      {0, "99999999999", "[48] KORVANTES | El código de agente no es válido"},
+      {0, "5 or 1=1", "[48] KORVANTES | El código de agente no es válido"},
+      {0, "4", "[0] KORVANTES | Código de agente no existe"},
+      {4, "31/02/2026", "[48] KORVANTES | La fecha límite no es válida"},
+      {4, "' or 1=1 --", "[48] KORVANTES | La fecha límite no es válida"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.text);
+    World world;
+    world.show([&](Screen& screen) {
+      screen.type(0, "5");
+      screen.go("Text1(7)");
+      screen.go(screen.text(each.index).identity());
+      screen.text(each.index).Text = each.text;
+      screen.click("cmbBuscarFacturas");
+      EXPECT_THAT(world.messages, testing::ElementsAre(each.message));
+      EXPECT_EQ(screen.form.ActiveControl(), &screen.text(each.index));
+      EXPECT_EQ(screen.form.Tag(), "e");
+      EXPECT_EQ(screen.list().Count(), 0U);
+      EXPECT_TRUE(screen.control("fraAgente").Enabled());
+    });
+  }
+}
+
+}  // namespace
+}  // namespace korvantes::settlement

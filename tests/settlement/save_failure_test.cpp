@@ -1,0 +1,177 @@
+#include <gmock/gmock.h>
+
+#include "engines/sqlite/sqlite_connection.h"
+#include "tests/settlement/settlement_world.h"
+
+namespace korvantes::settlement {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr const char* kWords = "disco lleno";
+
+using support::FaultyConnection;
+
+/// Fails the nth call of the save for every n until one save goes through, and holds the database,
+/// the screen and the message against what a failed save promises.
+void sweep(World& world, Screen& screen, FaultyConnection::When when) {
+  const auto before = world.stored();
+  const auto entered = screen.contents();
+  const int settlement = screen.form.nLiqui;
+  for (std::size_t n = 1;; ++n) {
+    SCOPED_TRACE("call " + std::to_string(n));
+    ASSERT_LT(n, 50U);
+    world.messages.clear();
+    world.connection->failAt(n, ado::Error(13, kWords), when);
+    screen.click("cmdGrabar");
+    EXPECT_FALSE(world.connection->inTransaction());
+    ASSERT_EQ(world.messages.size(), 1U);
+    if (!world.connection->failed()) {
+      EXPECT_GT(n, 5U);
+      EXPECT_THAT(world.messages[0], StartsWith("[64]"));
+      return;
+    }
+    EXPECT_THAT(world.messages[0], AllOf(StartsWith("[16] KORVANTES | Error "), HasSubstr(kWords)));
+    EXPECT_EQ(screen.contents(), entered);
+    EXPECT_EQ(screen.form.nLiqui, settlement);
+    if (when == FaultyConnection::When::After &&
+        world.connection->calls()[n - 1] == "CommitTrans") {
+      // It is stored although nobody knows: saving once more must not store it twice.
+      const auto stored = world.stored();
+      EXPECT_NE(stored, before);
+      screen.click("cmdGrabar");
+      EXPECT_THAT(world.messages.back(), StartsWith("[16]"));
+      EXPECT_EQ(world.stored(), stored);
+      return;
+    }
+    EXPECT_EQ(world.stored(), before);
+  }
+}
+
+constexpr FaultyConnection::When kMoments[] = {FaultyConnection::When::Before,
+                                               FaultyConnection::When::After};
+
+TEST(SettlementSaveFailure, WhateverCallFailsANewSettlementIsSavedOnceLater) {
+  for (const auto when : kMoments) {
+    World world;
+    world.show([&](Screen& screen) {
+      screen.search("5", false, false);
+      screen.type(2, "24112026");
+      screen.paste(7, "l'acuerdo; de 2026 -- ñ");
+      for (int note : {1, 3}) screen.tick(screen.rowOf(note));
+      sweep(world, screen, when);
+    });
+    const ado::Recordset rows = world.sql("select Lca_Obs from Lca");
+    ASSERT_EQ(rows.RecordCount(), 1U);
+    EXPECT_EQ(rows.cell(0, 0).text(), "l'acuerdo; de 2026 -- ñ");
+    EXPECT_EQ(
+        world.sql("select Cav_Id from Cav inner join Lca on Cav_IdLca = Lca_Id").RecordCount(), 2U);
+  }
+}
+
+TEST(SettlementSaveFailure, WhateverCallFailsAStoredSettlementIsReplacedLaterNeverDoubled) {
+  for (const auto when : kMoments) {
+    World world;
+    const int old = world.settle({1, 2, 3});
+    world.show(
+        [&](Screen& screen) {
+          screen.tick(screen.rowOf(3), false);
+          sweep(world, screen, when);
+        },
+        old);
+    const ado::Recordset rows = world.sql("select Lca_Id, Lca_IdTiva from Lca");
+    ASSERT_EQ(rows.RecordCount(), 1U);
+    EXPECT_NE(rows.cell(0, 0).asLong(), old);
+    EXPECT_EQ(rows.cell(0, 1).asLong(), 2) << "nothing looked rates up";
+    EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), 2U);
+    EXPECT_TRUE(world.sql("select Cav_IdLca from Cav where Cav_Id = 3").cell(0, 0).isNull());
+  }
+}
+
+TEST(SettlementSaveFailure, ARollbackThatFailsTooDoesNotHideTheFirstError) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.search("5", false, false);
+    screen.type(2, "24112026");
+    screen.tick(screen.rowOf(1));
+    world.connection->failAt(2, ado::Error(13, kWords));
+    world.connection->refuseRollback = true;
+    screen.click("cmdGrabar");
+    ASSERT_EQ(world.messages.size(), 1U);
+    EXPECT_THAT(world.messages[0],
+                AllOf(StartsWith("[16] KORVANTES | Error registrando liquidacion:\r\n"),
+                      HasSubstr(kWords), HasSubstr("sin conexión")));
+    world.connection->refuseRollback = false;
+    world.connection->RollbackTrans();
+  });
+}
+
+TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.search("5", false, false);
+    screen.type(2, "24112026");
+    for (int note : {1, 3}) screen.tick(screen.rowOf(note));
+    const auto entered = screen.contents();
+
+    sqlite::SqliteConnection other(world.path());
+    other.Execute("INSERT INTO Lca (Lca_IdAg) VALUES (5)");
+    other.Execute("INSERT INTO Lcd VALUES (1, 3)");
+    other.Execute("Update Cav set Cav_IdLca = 1 where Cav_id = 3");
+    const auto before = world.stored();
+
+    screen.click("cmdGrabar");
+    EXPECT_THAT(world.messages,
+                ElementsAre(AllOf(StartsWith("[16] KORVANTES | Error registrando relacion "
+                                             "liquidacion/factura:\r\n"),
+                                  HasSubstr("\r\nEl albarán A/17 ya está en la liquidación 1."))));
+    EXPECT_EQ(world.stored(), before);
+    EXPECT_EQ(screen.contents(), entered);
+
+    // Without that note the rest can be saved.
+    screen.tick(screen.rowOf(3), false);
+    screen.click("cmdGrabar");
+    EXPECT_THAT(world.messages.back(), StartsWith("[64]"));
+  });
+}
+
+TEST(SettlementSaveFailure, ANoteThatIsGoneIsNotSettled) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.search("5", false, false);
+    screen.type(2, "24112026");
+    screen.tick(screen.rowOf(3));
+    world.sql("delete from Cav where Cav_Id = 3");
+    screen.click("cmdGrabar");
+  });
+  EXPECT_THAT(world.messages,
+              ElementsAre("[16] KORVANTES | Error actualizando facturas liquidadas:\r\n"
+                          "El albarán A/17 ya no existe."));
+  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
+}
+
+TEST(SettlementSaveFailure, ASettlementThatAnotherUserHasReplacedIsNotWrittenAgain) {
+  for (bool keepsRows : {true, false}) {
+    World world;
+    const int old = world.settle({1});
+    world.show(
+        [&](Screen& screen) {
+          if (!keepsRows) screen.tick(0, false);
+          world.show([](Screen& second) { second.click("cmdGrabar"); }, old);
+          world.messages.clear();
+          const auto before = world.stored();
+          screen.click("cmdGrabar");
+          EXPECT_THAT(world.messages,
+                      ElementsAre("[16] KORVANTES | La liquidación 1 ya no existe:\r\notro usuario "
+                                  "la ha cambiado o eliminado. Cierre y vuelva a buscarla."));
+          EXPECT_EQ(world.stored(), before);
+        },
+        old);
+  }
+}
+
+}  // namespace
+}  // namespace korvantes::settlement

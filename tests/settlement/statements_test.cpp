@@ -1,0 +1,196 @@
+#include <gmock/gmock.h>
+
+#include "data/commission_rule.h"
+#include "outside/office/objects.h"
+#include "tests/settlement/settlement_world.h"
+
+namespace korvantes::settlement {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+const std::string kPending =
+    "SELECT Cav_Id,Cav_NFiscal,Fav_Serie,Fav_Numero,Fav_Fecha, (Cav_Serie + '/' + cast(Cav_Numero "
+    "as varchar(5))) as Albaran, (SELECT (round(cast((ROUND(cast(SUM(lav_Importe) as money),2)) - "
+    " (ROUND(cast((SUM(lav_Importe) * Cav_Dto1 / 100)as money),2)) -  (round(cast "
+    "(((((ROUND(cast(SUM(lav_Importe) as money),2)) -  (ROUND(cast((SUM(lav_Importe) * Cav_Dto1 / "
+    "100)as money),2))) * Cav_Dto2 /100)) as money),2))as money),2)) FROM laV where laV_Idcav= "
+    "cav_id) as Importe FROM Cav INNER JOIN Fav ON  Fav_Id = Cav_IdFactura WHERE (Cav_IdLca Is "
+    "Null Or Cav_IdLca = 0) And Cav_Situa = 2 AND Cav_Agente = 5";
+const std::string kCollected =
+    " AND Fav_Id IN (SELECT Rec_IdFac  FROM Rec WHERE Rec_IdFac = Fav_Id AND Rec_Sit <> 8 GROUP "
+    "BY Rec_IdFac HAVING COUNT(Rec_Id)= (SELECT COUNT(Rec_Id) FROM Rec WHERE Rec_IdFac = Fav_Id "
+    "AND Rec_Sit=5))";
+const std::string kUnpaid =
+    " AND Fav_Id IN (SELECT Rec_IdFac  FROM Rec WHERE Rec_IdFac = Fav_Id AND Rec_Sit <> 8 GROUP "
+    "BY Rec_IdFac HAVING COUNT(Rec_Id)= (SELECT COUNT(Rec_Id) FROM Rec WHERE Rec_IdFac = Fav_Id "
+    "AND Rec_Sit IN(1,2,3,4)))";
+const std::string kBoth =
+    " AND Fav_Id  in (SELECT Rec_idfac FROM REc where Rec_IdFac = Fav_Id and  Rec_Sit <= 5 AND "
+    "Rec_Sit <> 8)";
+const std::string kNewestFirst = " order by Fav_Fecha desc ";
+
+TEST(SettlementStatements, TheSearchSendsOneStatementWithTheChosenConditions) {
+  struct Case {
+    bool collected, pending;
+    std::string limit, condition;
+  };
+  const Case cases[] = {
+      {false, false, "", ""},
+      {true, false, "", kCollected},
+      {false, true, "", kUnpaid},
+      {true, true, "10102026", kBoth + " AND Fav_Fecha <= '10/10/2026'"},
+  };
+  for (const Case& each : cases) {
+    World world;
+    world.show([&](Screen& screen) {
+      screen.paste(4, each.limit);
+      screen.go("cmbBuscarFacturas");
+      world.connection->forgetCalls();
+      screen.search("5", each.collected, each.pending);
+      EXPECT_EQ(world.connection->calls().at(1), kPending + each.condition + kNewestFirst);
+    });
+  }
+}
+
+TEST(SettlementStatements, ListingAsksForTheAgentTheNotesEachCommissionAndTheRates) {
+  World world;
+  world.show([&](Screen& screen) {
+    world.connection->forgetCalls();
+    screen.search("005", false, false);
+    // Notes of equal invoice dates come in the order that the server likes.
+    std::vector<std::string> expected = {"SELECT Age_ID,Age_NOM,Age_Reg FROM Age WHERE  Age_id = 5",
+                                         kPending + kNewestFirst};
+    for (std::size_t row = 0; row < screen.list().Count(); ++row)
+      expected.push_back(data::sentenciaComision(3, std::stoi(screen.list().item(row).Tag), 0));
+    expected.push_back(
+        "Select Top 1 * from Vespara.dbo.Tivas WHERE Tiva_reg = 2 AND Tiva_Art = 1  ORDER BY "
+        "Tiva_Fecha Desc");
+    EXPECT_EQ(expected.size(), 7U);
+    EXPECT_EQ(world.connection->calls(), expected);
+
+    world.connection->forgetCalls();
+    screen.type(2, "30062026");
+    screen.go("cmdGrabar");
+    EXPECT_THAT(world.connection->calls(),
+                ElementsAre("Select Top 1 * from Vespara.dbo.Tivas WHERE Tiva_reg = 2 AND "
+                            "Tiva_Art = 1  AND Tiva_Fecha <= '30/06/2026' ORDER BY Tiva_Fecha "
+                            "Desc"));
+    EXPECT_EQ(screen.text(3).Text(), "18,00");
+    EXPECT_EQ(screen.text(11).Text(), "15,00");
+  });
+}
+
+TEST(SettlementStatements, ReplacingASettlementRemovesItAndWritesANewOne) {
+  World world;
+  const int old = world.settle({1, 3});
+  const std::string sOld = std::to_string(old), sNew = std::to_string(old + 1);
+  world.show(
+      [&](Screen& screen) {
+        screen.tick(screen.rowOf(3), false);
+        world.connection->forgetCalls();
+        screen.click("cmdGrabar");
+      },
+      old);
+  EXPECT_THAT(
+      world.connection->calls(),
+      ElementsAre("BeginTrans", "Update Cav set Cav_IdLca = Null where Cav_IdLca = " + sOld,
+                  "delete from Lcd where Lcd_IdLca=" + sOld, "delete from Lca where Lca_Id=" + sOld,
+                  StartsWith("INSERT INTO Lca ("), "Select max(Lca_id) from Lca",
+                  StartsWith("INSERT INTO Lcd ("),
+                  "Update Cav set Cav_IdLca = " + sNew + "where cav_id = 1", "CommitTrans"));
+  EXPECT_EQ(world.sql("select Lcd_IdCav from Lcd where Lcd_IdLca = " + sNew).RecordCount(), 1U);
+  EXPECT_TRUE(world.sql("select Cav_IdLca from Cav where Cav_id = 3").cell(0, 0).isNull());
+}
+
+TEST(SettlementStatements, UntickingAllRowsOfASettlementOnlyRemovesIt) {
+  World world;
+  const int old = world.settle({1});
+  world.show(
+      [&](Screen& screen) {
+        screen.tick(0, false);
+        screen.click("cmdGrabar");
+        EXPECT_EQ(screen.form.nLiqui, 0);
+      },
+      old);
+  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
+  EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), 0U);
+  EXPECT_THAT(world.messages,
+              ElementsAre("[64] KORVANTES | Proceso de liquidacion de comisiones a agentes "
+                          "concluido satisfactoriamente"));
+}
+
+/// Keeps what the screen asks of the report object.
+struct Report : office::Object {
+  std::vector<std::string>& log;
+  std::string failure;
+  Report(std::vector<std::string>& journal, std::string words)
+      : log(journal), failure(std::move(words)) {}
+  void set(std::string_view property, const office::Argument& value) override {
+    const auto* service = std::get_if<std::shared_ptr<plindor::BaseDatos>>(&value);
+    log.push_back(std::string(property) + (service != nullptr && *service ? " set" : " missing"));
+  }
+  ado::Variant call(std::string_view method,
+                    const std::vector<office::Argument>& arguments) override {
+    if (!failure.empty()) throw ado::Error(1, failure);
+    std::string line(method);
+    for (const office::Argument& argument : arguments) {
+      const auto& value = std::get<ado::Variant>(argument);
+      line += value.kind() == ado::VariantKind::Text ? " | " + value.text()
+                                                     : " | " + std::to_string(value.whole());
+    }
+    log.push_back(line);
+    return {};
+  }
+};
+
+TEST(SettlementStatements, PrintingHandsTheStoredSettlementToTheReport) {
+  World world;
+  std::vector<std::string> log;
+  world.desktop.objects().add("marzenes.MZPrint",
+                              [&] { return std::make_unique<Report>(log, ""); });
+  world.show([&](Screen& screen) {
+    screen.search("5", false, false);
+    screen.type(2, "24112026");
+    screen.tick(screen.rowOf(1));
+    screen.click("Check3");
+    screen.click("cmdGrabar");
+    EXPECT_EQ(screen.list().Count(), 0U);
+  });
+  const std::string number =
+      std::to_string(world.sql("select Lca_Id from Lca").cell(0, 0).asLong());
+  EXPECT_THAT(log, ElementsAre("MyBd set",
+                               "ShowReport | 11 | select age_id,age_nom,age_nif,lca.* from lca "
+                               "inner join age on lca_idag=age_id  Where lca_id = " +
+                                   number + " | 0"));
+  EXPECT_THAT(world.messages, IsEmpty());
+}
+
+TEST(SettlementStatements, AReportThatFailsLeavesTheSettlementStoredOnceAndTheScreenEmpty) {
+  for (const std::string failure : {"", "sin papel"}) {
+    World world;
+    std::vector<std::string> log;
+    if (!failure.empty())
+      world.desktop.objects().add("marzenes.MZPrint",
+                                  [&] { return std::make_unique<Report>(log, failure); });
+    world.show([&](Screen& screen) {
+      screen.search("5", false, false);
+      screen.type(2, "24112026");
+      screen.tick(screen.rowOf(1));
+      screen.click("Check3");
+      screen.click("cmdGrabar");
+      EXPECT_EQ(screen.list().Count(), 0U);
+      EXPECT_EQ(screen.text(10).Text(), "");
+    });
+    EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
+    ASSERT_EQ(world.messages.size(), 1U);
+    EXPECT_THAT(world.messages[0], StartsWith("[48] KORVANTES | La liquidacion se ha guardado, "
+                                              "pero no se ha podido imprimir:\r\n"));
+    EXPECT_THAT(world.messages[0], testing::HasSubstr(failure));
+  }
+}
+
+}  // namespace
+}  // namespace korvantes::settlement
