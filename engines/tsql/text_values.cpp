@@ -204,7 +204,10 @@ bool matchesLike(std::string_view text, std::string_view pattern) {
   // Where the last % stands and how far it reaches: the place to try again from.
   std::optional<std::size_t> behindPercent;
   std::size_t retry = 0;
+  const auto textEnd = characters.find_last_not_of(U' ') + 1;
   while (at < characters.size()) {
+    // Blanks at the end of the text do not count where the pattern does not ask for them.
+    if (element == elements.size() && at >= textEnd) return true;
     if (element < elements.size() && elements[element] == U'%') {
       behindPercent = ++element;
       retry = at;
@@ -218,9 +221,6 @@ bool matchesLike(std::string_view text, std::string_view pattern) {
     } else if (behindPercent) {
       element = *behindPercent;
       at = ++retry;
-    } else if (element == elements.size() &&
-               characters.find_first_not_of(U' ', at) == std::u32string::npos) {
-      return true;  // blanks at the end of the text do not count
     } else {
       return false;
     }

@@ -1,0 +1,154 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "engines/sqlite/sqlite_connection.h"
+#include "outside/ado/error.h"
+#include "tests/tsql/cases.h"
+
+namespace korvantes::tsql {
+namespace {
+
+std::string shown(const ado::Variant& value) {
+  switch (value.kind()) {
+    case ado::Variant::Kind::Null:
+      return "NULL";
+    case ado::Variant::Kind::Boolean:
+      return value.boolean() ? "True" : "False";
+    case ado::Variant::Kind::Whole:
+      return std::to_string(value.whole());
+    case ado::Variant::Kind::Decimal:
+      return value.decimal().text();
+    case ado::Variant::Kind::Date:
+      return value.date().dayFirst();
+    case ado::Variant::Kind::Text:
+      return value.text();
+    default:
+      return "?";
+  }
+}
+
+/// A database with the one row that values.sql speaks of.
+class Values : public testing::Test {
+ protected:
+  Values() {
+    connection_.Execute(kTable);
+    compiler_.compile(kTable);
+    catalogue_->add(*compiler_.compile(kTable).statement->created);
+    connection_.Execute(
+        "INSERT INTO V VALUES (7, NULL, 2147483647, 5, 10.05, 0.0049, 922337203685477.5807, 12.5, "
+        "7.5, 'Ñandú ', 'ab', '12.5', '28/02/2026')");
+  }
+  ~Values() override { std::filesystem::remove_all(folder_); }
+
+  std::string evaluate(const std::string& expression) {
+    const std::string statement = "SELECT " + expression + " FROM V";
+    try {
+      const auto type = nameOf(compiler_.compile(statement).statement->types.front());
+      const auto rows = connection_.Execute(statement);
+      return type + " " + shown(rows.cell(0, 0));
+    } catch (const ado::Error& error) {
+      return std::string("! ") + error.what();
+    }
+  }
+
+  static std::filesystem::path makeFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "kv-tsql-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    return name;
+  }
+
+  static constexpr const char* kTable =
+      "CREATE TABLE V (i int, n int, k int, b bit, m money, r money, big money, d decimal(5,2), "
+      "e decimal(6,3), t varchar(20), c char(5), z varchar(10), f date)";
+  std::filesystem::path folder_ = makeFolder();
+  sqlite::SqliteConnection connection_{(folder_ / "base").string(), {.create = true}};
+  std::shared_ptr<Catalogue> catalogue_ = std::make_shared<Catalogue>();
+  Compiler compiler_{Compiler::Engine::SQLite, catalogue_};
+};
+
+TEST_F(Values, ExpressionsHaveTheServersTypesAndValues) {
+  for (const auto& c : casesOf("values.sql")) {
+    EXPECT_EQ(evaluate(c.statement), c.expected) << c.statement;
+  }
+}
+
+TEST_F(Values, WhatIsAssignedIsConvertedOrRefused) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"i = m", "int 10"},
+      {"i = d + 0.4", "int 12"},
+      {"i = k + 1.0", "! Desbordamiento aritmético: el resultado no cabe en su tipo."},
+      {"i = z", "! Error de conversión al convertir una cadena de caracteres en número: «12.5»."},
+      {"m = d * e / 100", "money 0.9375"},
+      {"d = m * 100", "! Desbordamiento aritmético: el resultado no cabe en su tipo."},
+      {"d = m / 3", "decimal(5,2) 3.35"},
+      {"t = i", "varchar(20) 7"},
+      {"t = t + t + t + t", "! Los datos de cadena se truncarían en la columna «t»."},
+      {"t = c + '            ' + c", "varchar(20) ab               ab "},
+      {"c = i", "char(5) 7    "},
+      {"c = t", "char(5) Ñandú"},
+      {"c = k", "! Los datos de cadena se truncarían en la columna «c»."},
+      {"f = '1/12/2026'", "date 01/12/2026"},
+      {"f = t", "! Error de conversión al convertir una cadena de caracteres en fecha: «Ñandú »."},
+      {"b = i - 7", "bit False"},
+  };
+  for (const auto& [change, expected] : cases) {
+    connection_.BeginTrans();
+    const std::string column(1, change[0]);
+    std::string result;
+    try {
+      connection_.Execute(std::string("UPDATE V SET ") + change);
+      result = evaluate(column);
+    } catch (const ado::Error& error) {
+      result = std::string("! ") + error.what();
+    }
+    connection_.RollbackTrans();
+    EXPECT_EQ(result, expected) << change;
+  }
+}
+
+TEST_F(Values, NullNeverReachesAColumnThatForbidsIt) {
+  connection_.Execute("CREATE TABLE K (Id int PRIMARY KEY, A varchar(2) NOT NULL)");
+  const auto failure = [&](const char* statement) {
+    try {
+      connection_.Execute(statement);
+    } catch (const ado::Error& error) {
+      return std::string(error.what());
+    }
+    return std::string();
+  };
+  EXPECT_EQ(failure("INSERT INTO K SELECT n, 'a' FROM V"), "La columna «Id» no admite Null.");
+  EXPECT_EQ(failure("INSERT INTO K (Id, A) VALUES (1, (SELECT t FROM V WHERE i = 8))"),
+            "La columna «A» no admite Null.");
+  EXPECT_EQ(failure("INSERT INTO K (Id, A) VALUES (1, 'a'), (2, 'b')"), "");
+  EXPECT_EQ(failure("UPDATE K SET A = NULL + 'x'"), "La columna «A» no admite Null.");
+}
+
+TEST_F(Values, GroupsDistinctAndOrderCompareTextsTheSameWay) {
+  connection_.Execute("CREATE TABLE T (A varchar(10), N int)");
+  connection_.Execute(
+      "INSERT INTO T VALUES ('ana', 1), ('ANA ', 2), ('ñu', 3), ('Ola', 4), ('nube', 5), "
+      "(NULL, 6)");
+  const auto rows = [&](const char* statement) {
+    std::string text;
+    const auto result = connection_.Execute(statement);
+    for (std::size_t row = 0; row < result.RecordCount(); ++row) {
+      text += shown(result.cell(row, result.definitions().size() - 1)) + " ";
+    }
+    return text;
+  };
+  EXPECT_EQ(rows("SELECT N FROM T ORDER BY A, N DESC"), "6 2 1 5 3 4 ");
+  EXPECT_EQ(rows("SELECT A + '' AS B, N FROM T WHERE N > 2 ORDER BY B DESC"), "4 3 5 6 ");
+  EXPECT_EQ(rows("SELECT A, COUNT(*) FROM T GROUP BY A ORDER BY 1"), "1 2 1 1 1 ");
+  EXPECT_EQ(rows("SELECT COUNT(DISTINCT A) FROM T"), "4 ");
+  EXPECT_EQ(rows("SELECT COUNT(DISTINCT A + '.') FROM T"), "5 ");
+  EXPECT_EQ(rows("SELECT DISTINCT TOP 2 UPPER(A) X FROM T ORDER BY X"), "NULL ANA ");
+  EXPECT_EQ(rows("SELECT LOWER(A) FROM T WHERE N = 2 UNION SELECT A FROM T WHERE N = 1"), "ana ");
+  EXPECT_EQ(rows("SELECT MAX(A) FROM T"), "Ola ");
+  EXPECT_EQ(rows("SELECT TOP 0 N FROM T"), "");
+  EXPECT_EQ(
+      rows("SELECT N FROM T a WHERE N = (SELECT MAX(b.N) FROM T b WHERE b.A = a.A) ORDER BY N"),
+      "2 3 4 5 ");
+}
+
+}  // namespace
+}  // namespace korvantes::tsql
