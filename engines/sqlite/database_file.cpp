@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "outside/ado/error.h"
+#include "outside/ado/system_words.h"
 
 namespace korvantes::sqlite {
 
@@ -18,7 +19,7 @@ namespace {
 }
 
 [[noreturn]] void fail(const std::string& path, int number) {
-  fail(path, number, std::generic_category().message(number));
+  fail(path, number, ado::systemWords(number));
 }
 
 /// The path with its folder's links resolved, so that a link can only be the file itself.

@@ -41,7 +41,7 @@ class SqliteConnection : public ado::Connection {
   bool inTransaction() const override;
   ado::Recordset OpenForUpdate(std::string_view statement) override;
 
-  /// True when the file holds at least one table.
+  /// True when the file or its partner holds at least one table, of ours or of somebody else's.
   bool hasTables() const;
 
   /// Figures for benchmarks: texts that found their statement prepared, and texts compiled.

@@ -1,5 +1,8 @@
+#include <csignal>
 #include <fstream>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "engines/sqlite/sqlite_connection.h"
 #include "tests/sqlite/engine_fixture.h"
@@ -86,6 +89,42 @@ TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
   fs::create_directory_symlink("datos", folder_.at("enlace"));
   SqliteConnection(folder_.at("enlace/empresa.db"), kCreate);
   EXPECT_TRUE(fs::exists(folder_.at("datos/empresa.db")));
+}
+
+TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanishWithSqlitesWords) {
+  SqliteConnection first(path_, kCreate);
+  SqliteConnection second(path_, kCreate);
+  first.BeginTrans();
+  try {
+    second.BeginTrans();
+    FAIL();
+  } catch (const ado::Error& error) {
+    constexpr long kBusy = 5;
+    EXPECT_EQ(error.number(), kBusy);
+    EXPECT_STREQ(error.what(),
+                 "La base de datos está ocupada por otro usuario (database is locked)");
+  }
+}
+
+TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {
+  {
+    SqliteConnection connection(path_, kCreate);
+    makeTables(connection);
+  }
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    SqliteConnection connection(path_);
+    connection.Execute("insert into Cav (Cav_Id) values (1)");
+    connection.BeginTrans();
+    connection.Execute("insert into Cav (Cav_Id) values (2)");
+    ::kill(::getpid(), SIGKILL);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFSIGNALED(status));
+  SqliteConnection connection(path_);
+  EXPECT_EQ(rowsOf(connection.Execute("select Cav_Id from Cav")), std::vector<std::string>{"1"});
 }
 
 TEST_F(SqliteFileTest, WhatIsNoDatabaseIsLeftAsItIs) {

@@ -39,6 +39,19 @@ TEST_P(ResultTest, ColumnsBearTheNamesOfTheStatementAndTheTypesOfTheTables) {
   }
 }
 
+TEST_P(ResultTest, EveryTypeComesBackAsItsKind) {
+  run("create table Tipos (T_Id int not null primary key, T_Bit bit null, T_Char char(3) null, "
+      "T_Texto varchar(max) null, T_Bytes varbinary(4) null, T_Dia date null, "
+      "T_Dec decimal(9,3) null)");
+  run("insert into Tipos values (1, 1, 'ñ', 'largo', 0x00FF10, '29/02/2024', -1.5)");
+  run("insert into Tipos (T_Id, T_Bit) values (2, 0)");
+  EXPECT_EQ(rows("select * from Tipos order by T_Id"),
+            (std::vector<std::string>{"1|True|ñ  |largo|3 bytes|29/02/2024|-1.500",
+                                      "2|False|NULL|NULL|NULL|NULL|NULL"}));
+  const auto bytes = run("select T_Bytes from Tipos where T_Bit = 1").Fields(0).Value().bytes();
+  EXPECT_EQ(bytes, (ado::Bytes{std::byte{0}, std::byte{0xFF}, std::byte{0x10}}));
+}
+
 TEST_P(ResultTest, DatesAreReadDayFirst) {
   invoice(1, "'01/02/2026'");
   invoice(2, "'2/2/2026 '");
