@@ -9,6 +9,7 @@
 #include "engines/tsql/compiler.h"
 #include "host/failure.h"
 #include "host/sample_data.h"
+#include "outside/ado/system_words.h"
 
 namespace korvantes::host {
 namespace {
@@ -36,7 +37,7 @@ void makePrivateFolder(const fs::path& folder) {
     fs::permissions(folder, fs::perms::owner_all, error);
   if (error)
     throw Failure("no se puede crear la carpeta " + inQuotes(folder.string()) + ": " +
-                  systemWords(error));
+                  ado::systemWords(error));
 }
 
 /// After a failure that is the one to be told: a failure of the rollback itself is not.

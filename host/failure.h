@@ -3,7 +3,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace korvantes::host {
 
@@ -12,9 +11,6 @@ class Failure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
-
-/// The Spanish words of a failure of the operating system.
-std::string systemWords(const std::error_code& code);
 
 /// The words on one line: line breaks and other control characters become single blanks.
 std::string onOneLine(std::string_view words);

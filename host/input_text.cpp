@@ -3,9 +3,9 @@
 #include <cerrno>
 #include <fstream>
 #include <iterator>
-#include <system_error>
 
 #include "host/failure.h"
+#include "outside/ado/system_words.h"
 
 namespace korvantes::host {
 namespace {
@@ -18,14 +18,13 @@ std::string wholeText(std::istream& stream) {
 
 std::string readInput(const std::string& path, std::istream& standardInput) {
   if (path == "-") return wholeText(standardInput);
-  const auto refuse = [&path](const std::error_code& error) {
-    return Failure("no se puede leer " + inQuotes(path) + ": " + systemWords(error));
+  const auto refuse = [&path](int error) {
+    return Failure("no se puede leer " + inQuotes(path) + ": " + ado::systemWords(error));
   };
   std::ifstream file(path, std::ios::binary);
-  if (!file) throw refuse(std::error_code(errno, std::generic_category()));
+  if (!file) throw refuse(errno);
   // A folder opens, but does not read.
-  if (file.peek() == std::ifstream::traits_type::eof() && file.bad())
-    throw refuse(std::make_error_code(std::errc::is_a_directory));
+  if (file.peek() == std::ifstream::traits_type::eof() && file.bad()) throw refuse(EISDIR);
   return wholeText(file);
 }
 

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "host/failure.h"
+#include "outside/ado/system_words.h"
 
 namespace korvantes::host {
 
@@ -15,7 +16,7 @@ TemporaryFolder::TemporaryFolder() {
   std::string name = (parent / "korvantes-XXXXXX").string();
   if (!error && ::mkdtemp(name.data()) == nullptr)
     error = std::error_code(errno, std::generic_category());
-  if (error) throw Failure("no se puede crear una carpeta temporal: " + systemWords(error));
+  if (error) throw Failure("no se puede crear una carpeta temporal: " + ado::systemWords(error));
   path_ = name;
 }
 

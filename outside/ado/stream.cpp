@@ -5,18 +5,18 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "outside/ado/error.h"
+#include "outside/ado/system_words.h"
 
 namespace korvantes::ado {
 
 namespace {
 
 [[noreturn]] void fail(const std::string& what, const std::string& path, int number) {
-  throw Error(number, what + " " + path + ": " + std::generic_category().message(number));
+  throw Error(number, what + " " + path + ": " + systemWords(number));
 }
 
 /// An open file, closed when it goes.

@@ -11,12 +11,5 @@ TEST(FailureWords, StandOnOneLine) {
   EXPECT_EQ(onOneLine("\n\x1B[31mrojo\x7F"), "[31mrojo");
 }
 
-TEST(FailureWords, OfTheSystemAreSpanish) {
-  EXPECT_EQ(systemWords(std::make_error_code(std::errc::no_space_on_device)),
-            "el disco está lleno");
-  EXPECT_EQ(systemWords(std::error_code(EPROTO, std::generic_category())),
-            "error " + std::to_string(EPROTO) + " del sistema");
-}
-
 }  // namespace
 }  // namespace korvantes::host
