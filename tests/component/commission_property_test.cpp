@@ -1,0 +1,201 @@
+// Random documents through a real database file: the commission as the component gets it, and as
+// the statements of the reports get it, against the computation in exact_commission.h.
+//
+//   KORVANTES_PROPERTY_LINES   how many lines (600; 100000 takes a while)
+//   KORVANTES_PROPERTY_SEED    seed of another run
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "component/KORVAN.h"
+#include "data/commission_rule.h"
+#include "outside/ado/decimal.h"
+#include "tests/component/exact_commission.h"
+#include "tests/support/temporary_database.h"
+
+namespace korvantes {
+namespace {
+
+using ado::Decimal;
+using ado::Variant;
+
+// What the reports put around the lines of a note.
+constexpr std::string_view kNet =
+    "(ROUND(CAST(Lav_Importe - ROUND(CAST((Lav_Importe * Cav_Dto1 / 100) AS Money),2) as "
+    "money),2) "
+    "- ROUND(CAST(ROUND(CAST(Lav_Importe - ROUND(CAST((Lav_Importe * Cav_Dto1 / 100) AS Money),2) "
+    "as money),2) * Cav_DTO2 /100 AS MONEY),2)) ";
+
+std::string commissionsByNote() {
+  return "SELECT Lcd_IdCav, (SELECT SUM(ISNULL(ROUND(CAST( " + std::string(kNet) +
+         "/100 * Lav_Comi AS Money),2),0)) "
+         "FROM Lav INNER JOIN Cav ON Cav_Id = Lav_IdCav WHERE Cav_Id = Lcd_IdCav) AS Comision "
+         "FROM Lcd ORDER BY Lcd_IdCav";
+}
+
+std::string commissionsByLine() {
+  return "SELECT Lav_Id, ISNULL(" + std::string(kNet) +
+         ",0) AS Base , Lav_Comi AS Porcentaje, ISNULL(ROUND(CAST( " + std::string(kNet) +
+         "/100 * Lav_Comi AS Money),2),0) AS Comision "
+         "FROM Lcd INNER JOIN Cav ON Lcd_IdCav = Cav_Id INNER JOIN Lav ON Lav_IdCav = Cav_Id "
+         "ORDER BY Lav_Id";
+}
+
+struct Document {
+  Discounts discounts;
+  std::vector<Line> lines;
+};
+
+/// Documents that meet half cents at every stage far more often than chance would have it.
+class Generator {
+ public:
+  explicit Generator(std::uint64_t seed) : random_(seed) {}
+
+  std::vector<Document> documents(std::size_t lines) {
+    std::vector<Document> result;
+    while (lines > 0) {
+      Document& document = result.emplace_back();
+      document.discounts = {discount(), discount()};
+      for (std::int64_t count = upTo(8); count > 0 && lines > 0; --count, --lines)
+        document.lines.push_back({amount(), commission()});
+    }
+    return result;
+  }
+
+ private:
+  std::int64_t upTo(std::int64_t largest) {
+    return static_cast<std::int64_t>(random_() % (static_cast<std::uint64_t>(largest) + 1));
+  }
+  bool oneIn(std::int64_t count) { return upTo(count - 1) == 0; }
+  template <std::size_t size>
+  std::int64_t oneOf(const std::int64_t (&values)[size]) {
+    return values[upTo(size - 1)];
+  }
+
+  std::optional<std::int64_t> discount() {
+    if (oneIn(20)) return std::nullopt;
+    if (oneIn(2)) return oneOf({0, 250, 500, 1000, 1250, 3000, 5000, 7000, 10000});
+    return upTo(10000);
+  }
+
+  std::optional<std::int64_t> commission() {
+    if (oneIn(20)) return std::nullopt;
+    if (oneIn(2)) return oneOf({0, 500, 2500, 7500, 10000, 12500, 30000, 50000, 99999});
+    return upTo(99999);
+  }
+
+  std::optional<std::int64_t> amount() {
+    if (oneIn(25)) return std::nullopt;
+    constexpr std::int64_t kUnit = 10000;
+    std::int64_t units = upTo(oneOf({10, 1000, 100000, 1000000000}) * kUnit);
+    switch (upTo(4)) {
+      case 0:  // whole
+        units -= units % kUnit;
+        break;
+      case 1:  // cents, odd or ending in 5: half a cent at 10 or at 50 percent
+        units = units - units % 1000 + oneOf({100, 300, 500, 700, 900});
+        break;
+      case 2:  // half a cent in the amount itself
+        units = units - units % 100 + 50;
+        break;
+      case 3:  // a hair below half a cent at 10 percent: to money first makes it the half
+        units = units - units % 1000 + oneOf({496, 504, 495, 505});
+        break;
+      default:
+        break;
+    }
+    return oneIn(4) ? -units : units;
+  }
+
+  std::mt19937_64 random_;
+};
+
+std::uint64_t setting(const char* name, std::uint64_t usual) {
+  const char* text = std::getenv(name);
+  return text == nullptr ? usual : std::stoull(text);
+}
+
+std::string literal(std::optional<std::int64_t> units, int scale) {
+  return units ? Decimal(*units, scale).text() : "Null";
+}
+
+/// Stores the documents both as delivery notes and as orders, numbered from 1, and settles all
+/// notes. One row at a time: the statements differ in their literals alone, so that each is
+/// compiled once.
+void store(ado::Connection& connection, const std::vector<Document>& documents) {
+  connection.BeginTrans();
+  int line = 0;
+  for (std::size_t index = 0; index < documents.size(); ++index) {
+    const Document& document = documents[index];
+    const std::string key = std::to_string(index + 1);
+    const std::string discounts =
+        literal(document.discounts.first, 2) + ", " + literal(document.discounts.second, 2);
+    connection.Execute("INSERT INTO Cav (Cav_Id, Cav_Dto1, Cav_DTO2) VALUES (" + key + ", " +
+                       discounts + ")");
+    connection.Execute("INSERT INTO PedCa (PedCa_Id, PedCa_Dto1, PEDCA_DTO2) VALUES (" + key +
+                       ", " + discounts + ")");
+    connection.Execute("INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (1, " + key + ")");
+    for (const Line& each : document.lines) {
+      const std::string values = std::to_string(++line) + ", " + key + ", " +
+                                 literal(each.amount, 4) + ", " + literal(each.commission, 3);
+      connection.Execute("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) VALUES (" +
+                         values + ")");
+      connection.Execute(
+          "INSERT INTO PedLi (LiPed_Id, PedLi_IdPedca, PedLi_Importe, PedLi_Comi) VALUES (" +
+          values + ")");
+    }
+  }
+  connection.CommitTrans();
+}
+
+TEST(CommissionProperty, EveryWayToTheCommissionEqualsTheExactComputation) {
+  const std::uint64_t seed = setting("KORVANTES_PROPERTY_SEED", 20261124);
+  const std::uint64_t lines = setting("KORVANTES_PROPERTY_LINES", 600);
+  SCOPED_TRACE("KORVANTES_PROPERTY_SEED=" + std::to_string(seed) +
+               " KORVANTES_PROPERTY_LINES=" + std::to_string(lines));
+  const std::vector<Document> documents = Generator(seed).documents(lines);
+  support::TemporaryDatabase database;
+  ado::Connection& connection = *database.connection();
+  store(connection, documents);
+  const auto component = KORVAN::Create();
+  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection()));
+
+  const ado::Recordset byNote = connection.Execute(commissionsByNote());
+  const ado::Recordset byLine = connection.Execute(commissionsByLine());
+  ASSERT_EQ(byNote.RecordCount(), documents.size());
+  ASSERT_EQ(byLine.RecordCount(), lines);
+  std::size_t row = 0;
+  for (std::size_t index = 0; index < documents.size() && !testing::Test::HasFailure(); ++index) {
+    const Document& document = documents[index];
+    const auto key = static_cast<std::int32_t>(index + 1);
+    SCOPED_TRACE("document " + std::to_string(key) + ", discounts " +
+                 literal(document.discounts.first, 2) + " and " +
+                 literal(document.discounts.second, 2));
+    std::int64_t cents = 0;
+    for (const Line& line : document.lines) {
+      SCOPED_TRACE("line " + std::to_string(row + 1) + ", amount " + literal(line.amount, 4) +
+                   " at " + literal(line.commission, 3));
+      const std::int64_t commission = exactCommission(document.discounts, line);
+      cents += commission;
+      EXPECT_EQ(byLine.cell(row, 1),
+                Variant(Decimal::money(exactNet(document.discounts, line) * 100)));
+      EXPECT_EQ(byLine.cell(row, 3), Variant(Decimal::money(commission * 100)));
+      const auto lineKey = static_cast<std::int32_t>(++row);
+      for (const std::int16_t origin : {data::kPedido, data::kAlbaran}) {
+        EXPECT_EQ(component->msComisionAgente(origin, 0, lineKey),
+                  Decimal(commission, 2).toDouble());
+      }
+    }
+    EXPECT_EQ(byNote.cell(index, 1),
+              document.lines.empty() ? Variant() : Variant(Decimal::money(cents * 100)));
+    for (const std::int16_t origin : {data::kPedido, data::kAlbaran}) {
+      const double sum = component->msComisionAgente(origin, key, 0);
+      EXPECT_EQ(ado::decimalFromDouble(sum, 4), Decimal(cents, 2)) << "origin " << origin;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace korvantes

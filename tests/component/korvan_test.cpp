@@ -1,0 +1,139 @@
+#include "component/KORVAN.h"
+
+#include <gmock/gmock.h>
+
+#include "component/mdoKORVANTES.h"
+#include "data/commission_rule.h"
+#include "outside/screen/headless_desktop.h"
+#include "tests/support/recording_connection.h"
+
+namespace korvantes {
+namespace {
+
+using ado::Decimal;
+using support::RecordingConnection;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+using testing::ThrowsMessage;
+
+struct KorvanTest : testing::Test {
+  KorvanTest() : former(screen::Desktop::makeCurrent(&desktop)) {}
+  ~KorvanTest() override { screen::Desktop::makeCurrent(former); }
+
+  static std::shared_ptr<plindor::BaseDatos> serviceOn(
+      const std::shared_ptr<RecordingConnection>& connection) {
+    return std::make_shared<plindor::BaseDatos>(connection);
+  }
+
+  screen::HeadlessDesktop desktop;
+  screen::Desktop* former;
+  std::shared_ptr<RecordingConnection> one = std::make_shared<RecordingConnection>();
+  std::shared_ptr<RecordingConnection> two = std::make_shared<RecordingConnection>();
+};
+
+TEST_F(KorvanTest, SaysWhatIsMissingBeforeTheDatabaseServiceIsSet) {
+  if (!mdoKORVANTES::oComponente()) {
+    EXPECT_THAT([] { mdoKORVANTES::MyBd(); },
+                ThrowsMessage<ado::Error>(HasSubstr("No se ha creado")));
+  }
+  const auto component = KORVAN::Create();
+  EXPECT_EQ(component->MyBd(), nullptr);
+  EXPECT_THAT([&] { component->msComisionAgente(3, 1, 0); },
+              ThrowsMessage<ado::Error>(HasSubstr("MyBd")));
+  EXPECT_THAT([&] { component->jShowNewLiqui(); }, ThrowsMessage<ado::Error>(HasSubstr("MyBd")));
+  EXPECT_THAT(desktop.forms(), IsEmpty());
+}
+
+TEST_F(KorvanTest, TheLatestObjectServesEveryScreen) {
+  const auto first = KORVAN::Create();
+  first->MyBd(serviceOn(one));
+  const auto second = KORVAN::Create();
+  second->MyBd(serviceOn(two));
+  EXPECT_EQ(mdoKORVANTES::oComponente(), second);
+
+  desktop.whileShown = [&](screen::Form& form) {
+    desktop.stroke(*screen::keyNamed("F1"));
+    desktop.settle();
+    form.Unload();
+  };
+  two->answer(support::resultOf({"k", "AGE_ID", "AGE_NOM"}, {}));
+  first->jShowNewLiqui();
+  EXPECT_THAT(one->calls, IsEmpty());
+  EXPECT_THAT(two->calls, Not(IsEmpty()));
+
+  // The function, though, works on the service of its own object.
+  one->answer(support::resultOf({"Comision"}, {}));
+  first->msComisionAgente(3, 1, 0);
+  EXPECT_EQ(one->calls.size(), 1U);
+}
+
+TEST_F(KorvanTest, EveryDataAccessFetchesTheServiceAnew) {
+  const auto component = KORVAN::Create();
+  component->MyBd(serviceOn(one));
+  const std::weak_ptr<plindor::BaseDatos> replaced = component->MyBd();
+  component->MyBd(serviceOn(two));
+  EXPECT_TRUE(replaced.expired());
+  mdoKORVANTES::Conexion().Execute("SELECT 1");
+  EXPECT_THAT(one->calls, IsEmpty());
+  EXPECT_THAT(two->calls, ElementsAre("SELECT 1"));
+}
+
+TEST_F(KorvanTest, EachShowOpensAFreshFormWithTheEnterMarkerAndDropsIt) {
+  const auto component = KORVAN::Create();
+  component->MyBd(serviceOn(one));
+  std::vector<std::string> seen;
+  desktop.whileShown = [&](screen::Form& form) {
+    auto* remarks = dynamic_cast<screen::TextBox*>(form.findControl("Text1(7)"));
+    ASSERT_NE(remarks, nullptr);
+    seen.push_back(form.name() + " " + form.Tag() + " [" + remarks->Text() + "]");
+    remarks->Text = "typed into this one";
+    form.Unload();
+  };
+  component->jShowNewLiqui();
+  component->jShowNewLiqui();
+  EXPECT_THAT(seen, ElementsAre("frmNewLiquidAgentes e []", "frmNewLiquidAgentes e []"));
+  EXPECT_THAT(desktop.forms(), IsEmpty());
+}
+
+TEST_F(KorvanTest, AsksForTheLinesOfADocumentAndAddsThemUp) {
+  const auto component = KORVAN::Create();
+  component->MyBd(serviceOn(one));
+  one->answer(support::resultOf({"Comision"}, {Decimal::money(6400), Decimal::money(12900)}));
+  EXPECT_DOUBLE_EQ(component->msComisionAgente(3, 7, 0), 1.93);
+  EXPECT_THAT(one->calls.at(0),
+              "SELECT ISNULL(ROUND(CAST( (ROUND(CAST(Lav_Importe - ROUND(CAST((Lav_Importe * "
+              "Cav_Dto1 / 100) AS Money),2) as money),2)- ROUND(CAST(ROUND(CAST(Lav_Importe - "
+              "ROUND(CAST((Lav_Importe * Cav_Dto1 / 100) AS Money),2) as money),2) * Cav_DTO2 /100 "
+              "AS MONEY),2))/100 * Lav_Comi AS Money),2),0) AS Comision FROM Lav INNER JOIN Cav ON "
+              "Cav_Id = Lav_IdCav WHERE Cav_id = 7");
+
+  const struct {
+    std::int16_t origin;
+    std::int32_t document, line;
+    const char* end;
+  } cases[] = {{3, 7, 9, "FROM Lav INNER JOIN Cav ON Cav_Id = Lav_IdCav  WHERE Lav_Id = 9"},
+               {3, 7, -9, " WHERE Lav_Id = -9"},
+               {2, -2147483647 - 1, 0, "= PedLi_IdPedca WHERE PedCa_id = -2147483648"},
+               {2, 7, 2147483647, "= PedLi_IdPedca  WHERE LiPed_Id = 2147483647"}};
+  for (const auto& each : cases) {
+    EXPECT_THAT(data::sentenciaComision(each.origin, each.document, each.line),
+                testing::EndsWith(each.end));
+  }
+  EXPECT_THAT(data::sentenciaComision(2, 1, 0), Not(HasSubstr("Lav")));
+  for (const std::int16_t origin : std::initializer_list<std::int16_t>{0, 1, 4, 5, -3})
+    EXPECT_EQ(data::sentenciaComision(origin, 1, 0), "");
+}
+
+TEST_F(KorvanTest, AFailedStatementReachesTheCaller) {
+  const auto component = KORVAN::Create();
+  component->MyBd(serviceOn(one));
+  one->answer(ado::Error(208, "No existe la tabla Lav"));
+  EXPECT_THAT([&] { component->msComisionAgente(3, 1, 0); },
+              ThrowsMessage<ado::Error>("No existe la tabla Lav"));
+}
+
+}  // namespace
+}  // namespace korvantes
