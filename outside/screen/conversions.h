@@ -26,7 +26,7 @@ std::optional<ado::Date> toDate(std::string_view text);
 bool IsNumeric(std::string_view text, const Regional& regional = currentRegional());
 /// Reads a number: sign, digits, thousands separators before each group of three digits in front of
 /// the decimal separator, exponent; blanks around are allowed. Nothing for any other text: a
-/// separator elsewhere ("12.5" in Spanish) is refused rather than read as ten times the number.
+/// separator elsewhere ("12.5", "0.125" in Spanish) is refused rather than read as a multiple.
 std::optional<double> parseNumber(std::string_view text,
                                   const Regional& regional = currentRegional());
 /// The same; throws ado::ConversionError ("«abc» no es un número").

@@ -68,7 +68,9 @@ class NumberReader {
   /// Digits, or groups of three behind a first one of up to three.
   std::size_t whole() {
     std::size_t count = digits();
-    while (count >= 1 && groupFollows()) {
+    // "0.125" is no grouped number but a slip in the separator.
+    if (count == 0 || rest_.empty() || plain_[plain_.size() - count] == '0') return count;
+    while (groupFollows()) {
       if (count > 3 && !grouped_) break;
       grouped_ = true;
       rest_.remove_prefix(1);

@@ -36,25 +36,23 @@ class Typing : public testing::Test {
 TEST_F(Typing, EditsAtTheCaretAsATextFieldDoes) {
   const struct {
     const char *text, *strokes, *result;
-  } cases[] = {
-      {"ab", "c", "abc|"},
-      {"ab", "Izquierda ñ", "añ|b"},
-      {"ab", "Inicio c", "c|ab"},
-      {"añb", "Izquierda Retroceso", "a|b"},
-      {"añb", "Inicio Derecha Supr", "a|b"},
-      {"ab", "Inicio Retroceso Izquierda", "|ab"},
-      {"ab", "Supr Derecha", "ab|"},
-      {"abcd", "Mayús+Izquierda Mayús+Izquierda", "ab[cd]"},
-      {"abcd", "Mayús+Inicio Mayús+Derecha", "a[bcd]"},
-      {"abcd", "Inicio Mayús+Derecha Mayús+Derecha Mayús+Izquierda", "[a]bcd"},
-      {"abcd", "Inicio Mayús+Fin x", "x|"},
-      {"abcd", "Mayús+Izquierda Retroceso", "abc|"},
-      {"abcd", "Mayús+Izquierda Supr", "abc|"},
-      {"abcd", "Mayús+Inicio Derecha", "abcd|"},
-      {"abcd", "Mayús+Inicio Izquierda", "|abcd"},
-      {"abcd", "Control+A", "[abcd]"},
-      {"ab", "Control+X Alt+Z Escape Enter", "ab|"},
-  };
+  } cases[] = {{"ab", "c", "abc|"},
+               {"ab", "Izquierda ñ", "añ|b"},
+               {"ab", "Inicio c", "c|ab"},
+               {"añb", "Izquierda Retroceso", "a|b"},
+               {"añb", "Inicio Derecha Supr", "a|b"},
+               {"ab", "Inicio Retroceso Izquierda", "|ab"},
+               {"ab", "Supr Derecha", "ab|"},
+               {"abcd", "Mayús+Izquierda Mayús+Izquierda", "ab[cd]"},
+               {"abcd", "Mayús+Inicio Mayús+Derecha", "a[bcd]"},
+               {"abcd", "Inicio Mayús+Derecha Mayús+Derecha Mayús+Izquierda", "[a]bcd"},
+               {"abcd", "Inicio Mayús+Fin x", "x|"},
+               {"abcd", "Mayús+Izquierda Retroceso", "abc|"},
+               {"abcd", "Mayús+Izquierda Supr", "abc|"},
+               {"abcd", "Mayús+Inicio Derecha", "abcd|"},
+               {"abcd", "Mayús+Inicio Izquierda", "|abcd"},
+               {"abcd", "Control+A", "[abcd]"},
+               {"ab", "Control+X Alt+Z Escape Enter", "ab|"}};
   for (const auto& c : cases) EXPECT_EQ(after(c.text, c.strokes), c.result) << c.strokes;
 }
 
