@@ -24,7 +24,7 @@ ensure_packages() {
   done
   ((${#missing[@]})) || return 0
 
-  local as_root=(env)
+  local as_root=(env) install
   if ((EUID != 0)); then
     if ! command -v sudo >/dev/null; then
       say "These packages are missing: ${missing[*]}"
@@ -35,13 +35,14 @@ ensure_packages() {
     as_root=(sudo env)
   fi
   as_root+=(DEBIAN_FRONTEND=noninteractive)
+  # Another apt-get may be at work, as on a machine that has just started.
+  install=(apt-get -q -y -o DPkg::Lock::Timeout=120 --no-install-recommends install)
 
   local log
   log=$(mktemp)
-  say "Installing ${#missing[@]} missing packages: ${missing[*]}"
+  say "Installing what is missing: ${missing[*]}"
   if ! { "${as_root[@]}" apt-get -q update &&
-    "${as_root[@]}" apt-get -q -y --no-install-recommends install "${missing[@]}"; } \
-    </dev/null >"$log" 2>&1; then
+    "${as_root[@]}" "${install[@]}" "${missing[@]}"; } </dev/null >"$log" 2>&1; then
     tail -n 20 "$log" >&2
     rm -f "$log"
     say "The packages could not be installed; the last lines of apt-get stand above."
