@@ -106,7 +106,8 @@ void TextEditor::erase(int from, int count) {
 void TextEditor::replace(int from, int count, std::u32string_view text) {
   const std::string& whole = box_.Text();
   const std::size_t begin = ado::byteOffset(whole, static_cast<std::size_t>(from));
-  const std::size_t end = ado::byteOffset(whole, static_cast<std::size_t>(from + count));
+  const int until = from + count;
+  const std::size_t end = ado::byteOffset(whole, static_cast<std::size_t>(until));
   std::string edited = whole.substr(0, begin) + ado::toUtf8(text) + whole.substr(end);
   const int caretAfter = from + static_cast<int>(text.size());
   input_.run([&] {

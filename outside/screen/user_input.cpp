@@ -22,9 +22,10 @@ void report(const Form& form, const std::exception& problem) {
 
 }  // namespace
 
-/// Runs a handler; a copy, as it may replace itself. False when the form is not open, before or
-/// after.
-bool UserInput::run(std::function<void()> handler) {
+/// Runs a handler; its own copy, as it may replace itself. False when the form is not open, before
+/// or after.
+bool UserInput::run(std::function<void()> handlerOfEvent) {
+  const std::function<void()> handler = std::move(handlerOfEvent);
   if (!form_.loaded_) return false;
   const HandlerScope scope(form_.handlerDepth_);
   try {
