@@ -105,13 +105,15 @@ std::string UtilFormulario::LetraNif(const std::string& sNif, const std::string&
 
 double UtilFormulario::Redondea(double dValor, long nDecimales) const {
   if (nDecimales < 0) throw ado::ConversionError("No se puede redondear a menos de 0 decimales");
+  if (!std::isfinite(dValor)) throw ado::ConversionError("El valor no es un número");
+  if (dValor == 0) return 0;
   // Of numbers this large, the fifteenth digit stands before the point.
-  if (std::fabs(dValor) >= 1e15 && std::isfinite(dValor)) return dValor;
+  if (std::fabs(dValor) >= 1e15) return dValor;
   // Places behind the last significant digit are zeros: leaving them out keeps the exact decimal
   // within its range.
-  const long orden = dValor == 0 ? 0 : static_cast<long>(std::floor(std::log10(std::fabs(dValor))));
+  const auto orden = static_cast<long>(std::floor(std::log10(std::fabs(dValor))));
   const long lugares = std::min({nDecimales, kDigitos - orden, long{ado::Decimal::kMaxScale}});
-  return ado::decimalFromDouble(dValor, static_cast<int>(std::max(lugares, 0L))).toDouble();
+  return ado::decimalFromDouble(dValor, static_cast<int>(lugares)).toDouble();
 }
 
 void UtilFormulario::AlPerderFoco(screen::TextBox& oControl, std::string_view sFormato) const {
