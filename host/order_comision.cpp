@@ -1,8 +1,8 @@
 #include <limits>
 #include <ostream>
 
-#include "component/KORVAN.h"
 #include "data/commission_rule.h"
+#include "host/component_session.h"
 #include "host/database.h"
 #include "host/failure.h"
 #include "host/orders.h"
@@ -29,10 +29,8 @@ void orderCommission(const CommandLine& line, Streams streams) {
     throw Failure("ORIGEN: " + inQuotes(line.arguments[0]) + " no es 2 (pedido) ni 3 (albarán)");
 
   const Database database = openDatabase(line.base, OpenMode::Existing);
-  const auto component = KORVAN::Create();
-  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection));
-  const double commission = component->msComisionAgente(origin, header, documentLine);
-  component->MyBd(nullptr);
+  const ComponentSession session(database);
+  const double commission = session.component().msComisionAgente(origin, header, documentLine);
   const screen::Regional regional = line.regional.value_or(screen::Regional::ofMachine());
   streams.out << screen::CStr(commission, regional) << '\n';
 }

@@ -1,6 +1,6 @@
 #include <ostream>
 
-#include "component/KORVAN.h"
+#include "host/component_session.h"
 #include "host/database.h"
 #include "host/failure.h"
 #include "host/input_text.h"
@@ -29,12 +29,9 @@ void play(std::string_view script, const CommandLine& line, const Database& data
   if (line.today) desktop.clock = ado::Moment{*line.today, kNoon};
   desktop.version(kVersion);
 
-  const auto component = KORVAN::Create();
-  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection));
-  ScriptPlayer player(desktop, *database.connection, screensOf(*component), out);
+  const ComponentSession session(database);
+  ScriptPlayer player(desktop, *database.connection, screensOf(session.component()), out);
   const int errors = player.play(script);
-  // The module keeps its object for good; the connection is to close now.
-  component->MyBd(nullptr);
   if (errors > 0)
     throw Failure("el guion ha dado errores: " + std::to_string(errors) +
                   (errors == 1 ? " línea marcada" : " líneas marcadas") + " con [error]");

@@ -184,7 +184,7 @@ void queueAnswer(ScriptStage& stage, std::string_view text) {
 void queueListChoice(ScriptStage& stage, std::string_view text) {
   ScriptWords words(text);
   QueuedAnswers::ListChoice choice;
-  if (words.rest().starts_with("nada"))
+  if (ScriptWords(words).word("la fila") == "nada")
     words.word("la fila");
   else
     choice.row = words.number("la fila", 1);

@@ -208,7 +208,7 @@ TEST_F(ScriptPlayerTest, ALineThatCannotBeDoneIsAnErrorAndTheRunGoesOn) {
       {"escribir", "falta el texto"},
       {"responder Quizás", "no se conoce la respuesta «Quizás»"},
       {"escoger 1 ya", "sobra «ya»"},
-      {"escoger nadie", "la fila: «nadie» no es un número entero"},
+      {"escoger nadamás", "la fila: «nadamás» no es un número entero"},
       {"fichero", "falta la ruta"},
       {"ver Text1(0).Peso", "Text1(0) no tiene la propiedad «Peso»"},
       {"ver nada", "no hay ningún control «nada»"},
