@@ -165,6 +165,8 @@ typed::Core Binder::bindCore(const syntax::Core& core) {
   scope_->aggregatesAllowed = true;
   scope_->grouped = isGrouped(core);
   for (const auto& item : core.items) bindItem(item, result);
+  const bool oneGroup = scope_->grouped && core.groupBy.empty();
+  result.oneRow = oneGroup || core.sources.empty() || (result.top && *result.top <= 1);
   if (core.having) result.having = bindCondition(*core.having);
   return result;
 }

@@ -18,6 +18,7 @@ constexpr std::size_t kMostParameters = 32000;
 /// script of INSERTs with expressions) must not pile up.
 constexpr std::size_t kMostPerKey = 64;
 constexpr std::size_t kMostKeys = 2000;
+constexpr std::size_t kLongestKey = 65536;
 
 ado::FieldType fieldTypeOf(const Type& type) {
   switch (type.kind) {
@@ -159,6 +160,7 @@ struct Compiler::Impl {
   }
 
   void remember(const Entry& entry) {
+    if (fingerprint.key.size() > kLongestKey) return;
     if (cache.size() >= kMostKeys) cache.clear();
     auto& entries = cache[fingerprint.key];
     if (entries.size() >= kMostPerKey) entries.clear();

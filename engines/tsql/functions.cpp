@@ -83,6 +83,11 @@ std::int64_t checkDigits(const std::int64_t* a) {
   return a[0];
 }
 
+/// Stands in a branch that is reached by a second row alone.
+std::int64_t refuseRows(const std::int64_t*) {
+  throw failure(Problem::TooManyRows);
+}
+
 constexpr std::array kNumberFunctions{
     NumberFunction{"kv_add", 2, add},
     NumberFunction{"kv_sub", 2, subtract},
@@ -96,6 +101,7 @@ constexpr std::array kNumberFunctions{
     NumberFunction{"kv_round", 3, round},
     NumberFunction{"kv_int", 1, checkInt},
     NumberFunction{"kv_digits", 2, checkDigits},
+    NumberFunction{"kv_refuse_rows", 1, refuseRows},
 };
 
 using Arguments = std::span<const StoredValue>;

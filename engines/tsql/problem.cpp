@@ -103,6 +103,8 @@ Words wordsOf(Problem problem) {
       return {8115, "Desbordamiento aritmético: el resultado no cabe en su tipo"};
     case Problem::DivisionByZero:
       return {8134, "División entre cero"};
+    case Problem::TooManyRows:
+      return {512, "Una subconsulta que debe dar un valor ha dado más de una fila"};
   }
   return {0, ""};
 }

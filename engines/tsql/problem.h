@@ -70,6 +70,7 @@ enum class Problem {
   TextTooLong,
   Overflow,
   DivisionByZero,
+  TooManyRows,
 };
 
 /// A problem before it has found its words: thrown by the lexer, the parser and the binder.

@@ -110,10 +110,10 @@ class Writer {
  public:
   std::string take() { return std::move(out_); }
 
-  void write(const typed::Select& select) {
+  void write(const typed::Select& select, const char* alias = "") {
     for (std::size_t i = 0; i < select.cores.size(); ++i) {
       if (i > 0) out_ += select.unionAll[i - 1] ? " UNION ALL " : " UNION ";
-      write(select.cores[i], select.cores.size() > 1);
+      write(select.cores[i], select.cores.size() > 1, alias);
     }
     writeOrder(select);
     // TOP stands in front, its counterpart at the end.
@@ -169,12 +169,13 @@ class Writer {
     }
   }
 
-  void write(const typed::Core& core, bool compound) {
+  void write(const typed::Core& core, bool compound, const char* alias) {
     out_ += core.distinct ? "SELECT DISTINCT " : "SELECT ";
     writeList(core.items, [&](const typed::Item& item) {
       write(*item.value);
       // What makes rows equal must be the same comparison as everywhere.
       if ((core.distinct || compound) && needsCollation(*item.value)) out_ += kCollation;
+      out_ += alias;
     });
     if (!core.sources.empty()) {
       out_ += " FROM ";
@@ -326,7 +327,15 @@ class Writer {
   }
 
   void write(const typed::Subquery& subquery, const typed::Expression&) {
-    writeParenthesised(*subquery.select);
+    const auto& cores = subquery.select->cores;
+    if (cores.size() == 1 && cores.front().oneRow) {
+      writeParenthesised(*subquery.select);
+      return;
+    }
+    // SQLite would take the first of several rows without a word.
+    out_ += "(SELECT CASE WHEN count(*) > 1 THEN kv_refuse_rows(1) ELSE min(x) END FROM ";
+    writeParenthesised(*subquery.select, " AS x");
+    out_ += ")";
   }
 
   void write(const typed::Compare& compare, const typed::Expression&) {
@@ -404,9 +413,10 @@ class Writer {
     if (needsCollation(expression)) out_ += kCollation;
   }
 
-  void writeParenthesised(const typed::Select& select) {
+  /// `alias` names the select's one column.
+  void writeParenthesised(const typed::Select& select, const char* alias = "") {
     out_ += "(";
-    write(select);
+    write(select, alias);
     out_ += ")";
   }
 

@@ -155,6 +155,7 @@ struct Order {
 
 struct Core {
   bool distinct = false;
+  bool oneRow = false;  ///< by its form: an aggregate without groups, TOP 1, no table
   std::optional<std::int64_t> top;
   std::vector<Item> items;
   std::vector<Source> sources;

@@ -214,6 +214,16 @@ CASE WHEN z = 12 THEN 1 END
 CASE WHEN NOT (i = 1 OR i = 2) AND i = '7' AND i > -1 AND i !< 7 AND i != 8 THEN 1 END
 => int 1
 
+-- Subqueries of one value.
+(SELECT i FROM V x WHERE x.n = 8)
+=> int NULL
+(SELECT x.t FROM V x WHERE x.i = V.i) + '.'
+=> varchar(21) Ñandú .
+(SELECT i FROM V UNION ALL SELECT k FROM V)
+=> ! Una subconsulta que debe dar un valor ha dado más de una fila.
+(SELECT TOP 1 i FROM V UNION SELECT k FROM V)
+=> ! Línea 1, columna 9: no se admite «TOP con UNION».
+
 -- Aggregates.
 (SELECT SUM(x.i * V.d) FROM V x)
 => decimal(38,2) 87.50

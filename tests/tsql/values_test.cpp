@@ -120,6 +120,9 @@ TEST_F(Values, NullNeverReachesAColumnThatForbidsIt) {
   EXPECT_EQ(failure("INSERT INTO K (Id, A) VALUES (1, (SELECT t FROM V WHERE i = 8))"),
             "La columna «A» no admite Null.");
   EXPECT_EQ(failure("INSERT INTO K (Id, A) VALUES (1, 'a'), (2, 'b')"), "");
+  EXPECT_EQ(failure("INSERT INTO K SELECT i, c FROM V"), "");
+  EXPECT_EQ(failure("INSERT INTO K SELECT i, '' + z FROM V WHERE LEN(z) = 1"), "");
+  EXPECT_EQ(failure("INSERT INTO K SELECT k, CAST(i AS varchar(1)) FROM V"), "");
   EXPECT_EQ(failure("UPDATE K SET A = NULL + 'x'"), "La columna «A» no admite Null.");
 }
 
