@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "engines/sqlite/functions.h"
+#include "engines/tsql/problem.h"
 
 namespace korvantes::sqlite {
 
@@ -79,7 +80,12 @@ ado::Error Database::failure(int code, std::string_view subject) {
   }
   if (!raw()) return {code, wordsFor(code, sqlite3_errstr(code)), subject};
   const int extended = sqlite3_extended_errcode(raw());
-  return {extended, wordsFor(extended, sqlite3_errmsg(raw())), subject};
+  const std::string words = sqlite3_errmsg(raw());
+  if (words == "integer overflow") {  // of SUM, the one arithmetic that is SQLite's own
+    const auto overflow = tsql::failure(tsql::Problem::Overflow);
+    return {overflow.number(), overflow.what(), subject};
+  }
+  return {extended, wordsFor(extended, words), subject};
 }
 
 Statement::Statement(Database& database, const std::string& text, std::string_view subject)

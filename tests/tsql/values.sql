@@ -229,6 +229,8 @@ CASE WHEN NOT (i = 1 OR i = 2) AND i = '7' AND i > -1 AND i !< 7 AND i != 8 THEN
 => decimal(38,2) 87.50
 (SELECT SUM(k) + COUNT(*) FROM V x)
 => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
+(SELECT SUM(x.big) FROM V x LEFT JOIN Dos ON 1 = 1)
+=> ! Desbordamiento aritmético: el resultado no cabe en su tipo.
 (SELECT SUM(m) FROM V x WHERE 1 = 0)
 => money NULL
 (SELECT AVG(x.i) + COUNT(n) FROM V x)

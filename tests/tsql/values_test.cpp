@@ -31,9 +31,11 @@ std::string shown(const ado::Variant& value) {
 class Values : public testing::Test {
  protected:
   Values() {
-    connection_.Execute(kTable);
-    compiler_.compile(kTable);
-    catalogue_->add(*compiler_.compile(kTable).statement->created);
+    for (const char* table : {kTable, "CREATE TABLE Dos (Fila int)"}) {
+      connection_.Execute(table);
+      catalogue_->add(*compiler_.compile(table).statement->created);
+    }
+    connection_.Execute("INSERT INTO Dos VALUES (1), (2)");
     connection_.Execute(
         "INSERT INTO V VALUES (7, NULL, 2147483647, 5, 10.05, 0.0049, 922337203685477.5807, 12.5, "
         "7.5, 'Ñandú ', 'ab', '12.5', '28/02/2026')");
