@@ -23,18 +23,6 @@ TEST(SettlementLayout, TabVisitsTheFieldsInTheOrderOfWorkAndNeverTheComputedOnes
   });
 }
 
-TEST(SettlementLayout, ComputedBoxesAreReadOnlyTwice) {
-  World world;
-  world.show([](Screen& screen) {
-    EXPECT_FALSE(screen.control("Frame4").Enabled());
-    for (int index : {3, 8, 9, 10, 11, 12}) {
-      EXPECT_TRUE(screen.text(index).Locked()) << index;
-      EXPECT_FALSE(screen.text(index).usable()) << index;
-      EXPECT_EQ(screen.text(index).container()->name(), "Frame4") << index;
-    }
-  });
-}
-
 TEST(SettlementLayout, NoTwoControlsShareATabIndexAndEachLiesInsideItsContainer) {
   World world;
   world.show([](Screen& screen) {
