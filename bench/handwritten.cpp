@@ -8,14 +8,16 @@ namespace korvantes::bench {
 
 namespace {
 
+__extension__ using Wide = __int128;
+
 /// To money and then to cents: units of `from` places to units of four places that are whole cents,
 /// halves away from zero at both steps.
-std::int64_t centsOf(__int128 units, __int128 unitsPerMoneyUnit) {
-  const auto away = [](__int128 value, __int128 divisor) {
-    const __int128 half = divisor / 2;
+std::int64_t centsOf(Wide units, Wide unitsPerMoneyUnit) {
+  const auto away = [](Wide value, Wide divisor) {
+    const Wide half = divisor / 2;
     return (value >= 0 ? value + half : value - half) / divisor;
   };
-  const __int128 money = away(units, unitsPerMoneyUnit);
+  const Wide money = away(units, unitsPerMoneyUnit);
   return static_cast<std::int64_t>(away(money, 100) * 100);
 }
 
@@ -95,11 +97,11 @@ std::int64_t Handwritten::commission(std::int64_t note) {
   std::int64_t sum = 0;
   int code = SQLITE_OK;
   while ((code = sqlite3_step(statement)) == SQLITE_ROW) {
-    const __int128 line = sqlite3_column_int64(statement, 0);
-    const __int128 discount1 = centsOf(line * sqlite3_column_int64(statement, 1), 10000);
+    const Wide line = sqlite3_column_int64(statement, 0);
+    const Wide discount1 = centsOf(line * sqlite3_column_int64(statement, 1), 10000);
     const std::int64_t rest = centsOf(line - discount1, 1);
-    const __int128 discount2 =
-        centsOf(static_cast<__int128>(rest) * sqlite3_column_int64(statement, 2), 10000);
+    const Wide discount2 =
+        centsOf(static_cast<Wide>(rest) * sqlite3_column_int64(statement, 2), 10000);
     sum += centsOf((rest - discount2) * sqlite3_column_int64(statement, 3), 100000);
   }
   impl_->check(code);
@@ -120,12 +122,11 @@ std::vector<Handwritten::Row> Handwritten::list(int agent) {
     std::snprintf(invoice, sizeof invoice, "%s%s%06lld", serial, *serial == 0 ? "" : "/",
                   static_cast<long long>(sqlite3_column_int64(statement, 3)));
     const std::int64_t total = centsOf(sqlite3_column_int64(statement, 8), 1);
-    const std::int64_t discount1 =
-        centsOf(static_cast<__int128>(sqlite3_column_int64(statement, 8)) *
-                    sqlite3_column_int64(statement, 6),
-                10000);
-    const std::int64_t discount2 = centsOf(
-        static_cast<__int128>(total - discount1) * sqlite3_column_int64(statement, 7), 10000);
+    const std::int64_t discount1 = centsOf(
+        static_cast<Wide>(sqlite3_column_int64(statement, 8)) * sqlite3_column_int64(statement, 6),
+        10000);
+    const std::int64_t discount2 =
+        centsOf(static_cast<Wide>(total - discount1) * sqlite3_column_int64(statement, 7), 10000);
     row.cells = {invoice,
                  textOf(statement, 4),
                  textOf(statement, 1),
