@@ -2,9 +2,10 @@
 # installed. Everything is said on standard error, so that the output of a program started
 # afterwards stays clean.
 
-build_packages=(g++ cmake ninja-build pkg-config libsqlite3-dev)
-run_packages=(libsqlite3-0)
-test_packages=(libgtest-dev libgmock-dev)
+build_packages=(g++ cmake ninja-build pkg-config libsqlite3-dev qt6-base-dev)
+run_packages=(libsqlite3-0 libqt6widgets6 qt6-translations-l10n qt6-image-formats-plugins
+  fonts-liberation)
+test_packages=(libgtest-dev libgmock-dev xvfb xauth)
 check_packages=(git clang-format)
 
 say() { printf '%s\n' "$*" >&2; }
@@ -51,6 +52,18 @@ ensure_packages() {
   rm -f "$log"
 }
 
+# Reads ninja's progress and tells once that there is work, as it may take its time. Step 0 only looks
+# for new files.
+tell_first_step() {
+  local line told=no
+  while read -r line; do
+    if [[ $told == no && $line =~ ^\[[1-9] ]]; then
+      say "Building $1 (a first build takes some minutes)."
+      told=yes
+    fi
+  done
+}
+
 # build_preset PRESET: configures build/PRESET where that has not been done, and builds what is
 # missing. Silent unless something has to be built or fails.
 build_preset() {
@@ -66,10 +79,7 @@ build_preset() {
       return 1
     fi
   fi
-  # A dry run tells whether there is anything to do; it is much quicker than to say so for nothing.
-  if ninja -C "$directory" -n </dev/null 2>/dev/null | grep -q 'no work to do'; then return 0; fi
-  say "Building $directory (a first build takes some minutes)."
-  if ! ninja -C "$directory" </dev/null >"$log" 2>&1; then
+  if ! ninja -C "$directory" </dev/null 2>&1 | tee "$log" | tell_first_step "$directory"; then
     grep -v '^\[[0-9]*/[0-9]*\] [A-Z][a-z]*ing ' "$log" | head -n 100 >&2
     say "The build failed; all of it stands in $log."
     return 1
