@@ -1,0 +1,147 @@
+#include "desktop/application.h"
+
+#include <QApplication>
+#include <QImageReader>
+#include <QLibraryInfo>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QToolTip>
+#include <QTranslator>
+#include <QWidget>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <langinfo.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+#include "desktop/look.h"
+
+namespace korvantes::desktop {
+
+namespace {
+
+constexpr int kMostPictureMegabytes = 128;  // decoded, with room above the pixels of pictures.h
+
+bool isSet(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr && *value != '\0';
+}
+
+/// Kept back are what the offscreen platform says it cannot do, and what decoders say of damaged
+/// pictures, of which we tell the user ourselves.
+void say(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (text.startsWith(QLatin1String("This plugin does not support"))) return;
+  if (std::string_view(context.category).starts_with("qt.gui.imageio")) return;
+  std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+  if (type == QtFatalMsg) std::abort();
+}
+
+bool ownFolder(const char* path) {
+  struct stat found {};
+  return stat(path, &found) == 0 && S_ISDIR(found.st_mode) && found.st_uid == geteuid() &&
+         (found.st_mode & 0777) == 0700;
+}
+
+/// Qt wants a UTF-8 character set and says so on standard error where LANG names none. Numbers and
+/// dates keep the settings that the user has.
+void useUtf8() {
+  std::setlocale(LC_CTYPE, "");
+  const bool utf8 = std::string_view(nl_langinfo(CODESET)) == "UTF-8";
+  std::setlocale(LC_CTYPE, "C");
+  if (utf8) return;
+  if (isSet("LC_ALL")) {
+    setenv("LC_NUMERIC", std::getenv("LC_ALL"), 1);
+    unsetenv("LC_ALL");
+  }
+  setenv("LC_CTYPE", "C.UTF-8", 1);
+}
+
+}  // namespace
+
+/// What is set in the process's environment before Qt looks at it.
+struct Application::Environment {
+  Environment() {
+    if (!displayAvailable() && !isSet("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    // Widgets need no OpenGL, whose libraries complain over a forwarded display.
+    setenv("QT_XCB_GL_INTEGRATION", "none", 0);
+    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
+    if (runtime == nullptr || !ownFolder(runtime)) makeRuntimeFolder();
+    useUtf8();
+  }
+  ~Environment() {
+    std::error_code ignored;
+    if (!runtimeFolder.empty()) std::filesystem::remove_all(runtimeFolder, ignored);
+  }
+  Environment(const Environment&) = delete;
+  Environment& operator=(const Environment&) = delete;
+
+  void makeRuntimeFolder() {
+    std::string path = "/tmp/korvantes-XXXXXX";
+    if (mkdtemp(path.data()) == nullptr) return;
+    runtimeFolder = path;
+    setenv("XDG_RUNTIME_DIR", path.c_str(), 1);
+  }
+
+  std::string runtimeFolder;
+};
+
+struct Application::Toolkit {
+  explicit Toolkit(std::string programName)
+      : formerHandler(qInstallMessageHandler(say)),
+        name(std::move(programName)),
+        arguments{name.data(), nullptr},
+        application(count, arguments.data()) {
+    // printf and strtod elsewhere in the program count on the decimal point.
+    std::setlocale(LC_NUMERIC, "C");
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(quietPalette());
+    QApplication::setFont(fontOf({9, false}));
+    QToolTip::setPalette(quietPalette());
+    QImageReader::setAllocationLimit(kMostPictureMegabytes);
+    if (spanish.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+      QCoreApplication::installTranslator(&spanish);
+  }
+  ~Toolkit() { qInstallMessageHandler(formerHandler); }
+  Toolkit(const Toolkit&) = delete;
+  Toolkit& operator=(const Toolkit&) = delete;
+
+  QtMessageHandler formerHandler;
+  std::string name;
+  int count = 1;
+  std::vector<char*> arguments;
+  QTranslator spanish;
+  QApplication application;
+};
+
+Application::Application(std::string programName)
+    : environment_(std::make_unique<Environment>()),
+      toolkit_(std::make_unique<Toolkit>(std::move(programName))) {}
+
+Application::~Application() {
+  // Windows and fonts of Qt end while its folder still stands.
+  toolkit_.reset();
+}
+
+bool Application::displayAvailable() {
+  return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+}
+
+bool Application::visible() const {
+  return QGuiApplication::platformName() != QLatin1String("offscreen");
+}
+
+int Application::run(QWidget& mainWindow) {
+  // Forms are modal: while one is open the main window takes no input, and it cannot be closed.
+  QGuiApplication::setQuitOnLastWindowClosed(true);
+  mainWindow.show();
+  const int status = QApplication::exec();
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  return status;
+}
+
+}  // namespace korvantes::desktop

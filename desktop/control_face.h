@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "outside/screen/form.h"
+#include "outside/screen/user_input.h"
+
+class QKeyEvent;
+class QPoint;
+class QWidget;
+
+namespace korvantes::desktop {
+
+/// What the faces of controls ask of the window they stand in.
+class FaceWindow {
+ public:
+  using Action = std::function<void(screen::UserInput& user)>;
+
+  virtual ~FaceWindow() = default;
+  /// The user did something: the action tells the model, then the window shows what came of it.
+  virtual void report(const Action& action) = 0;
+  virtual const screen::Form& form() const = 0;
+};
+
+/// The widget of one control. The widget belongs to its parent widget.
+class ControlFace {
+ public:
+  ControlFace(screen::Control& control, FaceWindow& window) : control_(control), window_(window) {}
+  virtual ~ControlFace() = default;
+  ControlFace(const ControlFace&) = delete;
+  ControlFace& operator=(const ControlFace&) = delete;
+
+  screen::Control& control() const { return control_; }
+  virtual QWidget& widget() const = 0;
+  /// Puts the widget where the control stands.
+  virtual void place();
+  /// Shows what the control says, its rows aside.
+  void show();
+  /// Shows the rows, after rowsChanged.
+  virtual void showRows() {}
+  /// The user pressed a key that the toolkit, not the model, knows: clipboard, opening a list.
+  virtual void command(const QKeyEvent&) {}
+
+ protected:
+  virtual void showControl() = 0;
+  FaceWindow& window() const { return window_; }
+  /// Enabled in itself and its containers. A form that is disabled while it works looks as ever.
+  bool looksEnabled() const;
+  /// Background behind the control: that of its frame, or of the form.
+  screen::Color background() const;
+
+ private:
+  screen::Control& control_;
+  FaceWindow& window_;
+};
+
+// One maker for each kind of control; a common dialog has no face.
+std::unique_ptr<ControlFace> makeFace(screen::Label& label, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::Frame& frame, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::TextBox& box, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::CheckBox& box, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::OptionButton& option, FaceWindow& window,
+                                      QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::ComboBox& combo, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::PictureButton& button, FaceWindow& window,
+                                      QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::ListView& list, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::DataGrid& grid, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::Image& image, FaceWindow& window, QWidget& parent);
+std::unique_ptr<ControlFace> makeFace(screen::Shape& shape, FaceWindow& window, QWidget& parent);
+/// Of whatever kind; nullptr for a control without a face.
+std::unique_ptr<ControlFace> makeFaceOf(screen::Control& control, FaceWindow& window,
+                                        QWidget& parent);
+
+}  // namespace korvantes::desktop

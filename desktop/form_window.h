@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <set>
+
+#include "desktop/control_face.h"
+
+class QEventLoop;
+class QScrollArea;
+
+namespace korvantes::desktop {
+
+class WindowStack;
+
+/// The window of one form. It shows what the form's controls say, reports what the user does, and
+/// keeps the toolkit's focus where the model has it: Qt moves no focus by itself here, and its
+/// focus events mean nothing.
+class FormWindow : public QWidget, public FaceWindow, private screen::FormObserver {
+ public:
+  FormWindow(screen::Form& form, WindowStack& stack, QWidget* parent);
+  ~FormWindow() override;
+
+  void report(const Action& action) override;
+  const screen::Form& form() const override { return form_; }
+
+  /// Shows the window and gives the first control the focus.
+  void open();
+  /// Returns when the form has been unloaded or the application ends.
+  void waitUntilClosed();
+  /// A window above was opened or closed: releases of keys pressed before are not for the form.
+  void forgetPresses() { pressed_.clear(); }
+  /// The window is on top again.
+  void takeFocusBack();
+
+  /// nullptr for a control that has no face.
+  ControlFace* faceOf(const screen::Control& control) const;
+  /// Brings a control into view, where the screen is smaller than the form.
+  void reveal(const screen::Control& control);
+  /// Shows rows and focus as they are now, not only at the next turn of the event loop.
+  void showNow();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+  bool event(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool focusNextPrevChild(bool) override { return false; }
+
+ private:
+  void propertyChanged(screen::Control* control, const screen::PropertyBase& property) override;
+  void rowsChanged(screen::Control& control) override;
+  void activeControlChanged() override;
+  void unloaded() override;
+
+  void makeFaces();
+  void stackFaces();
+  void showForm();
+  void showLater();
+  void syncFocus();
+  void keyPressed(const QKeyEvent& event);
+  void keyReleased(const QKeyEvent& event);
+
+  screen::Form& form_;
+  WindowStack& stack_;
+  QScrollArea& scroll_;
+  QWidget& canvas_;
+  std::map<const screen::Control*, std::unique_ptr<ControlFace>> faces_;
+  std::set<ControlFace*> rowsToShow_;
+  std::set<quint64> pressed_;
+  bool showingLater_ = false;
+  QEventLoop* loop_ = nullptr;
+};
+
+}  // namespace korvantes::desktop

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPoint>
+
+#include "outside/screen/user_input.h"
+
+class QWidget;
+
+namespace korvantes::desktop {
+
+/// Key and mouse events as the window system sends them: to the window, which hands them on to its
+/// focus widget or to what lies under the place.
+
+void sendPress(QWidget& window, const screen::Key& key);
+void sendRelease(QWidget& window, const screen::Key& key);
+
+enum class Clicks { Single, Double };
+/// The left button at a place of a widget.
+void sendClick(QWidget& widget, const QPoint& place, Clicks clicks = Clicks::Single);
+void sendPressOnly(QWidget& widget, const QPoint& place);
+/// The place is not covered by another widget.
+bool canBeHit(QWidget& widget, const QPoint& place);
+
+}  // namespace korvantes::desktop

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDialog>
+
+class QPushButton;
+
+namespace korvantes::desktop {
+
+class WindowStack;
+
+/// A dialog of the desktop's own. It is on the stack while it is shown, and knows whether Enter
+/// closed it, whose release then belongs to the form below.
+class ModalDialog : public QDialog {
+ public:
+  ModalDialog(WindowStack& stack, const QString& title);
+  ~ModalDialog() override;
+
+  /// Shows the dialog on the stack; exec or a script follows.
+  void open() override;
+  void done(int result) override;
+
+ protected:
+  QPushButton& addButton(const QString& caption);
+  /// What Enter does on anything but a button.
+  virtual void enterPressed() = 0;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void closeByEnter(const std::function<void()>& act, const QKeyEvent& event);
+
+  WindowStack& stack_;
+  bool onStack_ = false;
+  bool byEnter_ = false;
+};
+
+}  // namespace korvantes::desktop

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+class QWidget;
+
+namespace korvantes::desktop {
+
+/// Makes a widget that its parent, the last argument, owns from now on.
+template <class Widget, class... Arguments>
+Widget& makeChild(Arguments&&... arguments) {
+  return *std::make_unique<Widget>(std::forward<Arguments>(arguments)...).release();
+}
+
+}  // namespace korvantes::desktop

@@ -1,0 +1,173 @@
+#include "desktop/qt_desktop.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <stdexcept>
+
+#include "desktop/choice_dialog.h"
+#include "desktop/file_dialog.h"
+#include "desktop/form_window.h"
+#include "desktop/look.h"
+#include "desktop/message_dialog.h"
+#include "desktop/pictures.h"
+#include "desktop/robot.h"
+#include "desktop/window_stack.h"
+#include "outside/ado/error.h"
+#include "outside/ado/utf8.h"
+
+namespace korvantes::desktop {
+
+namespace {
+
+constexpr int kHourglass = 11;
+constexpr int kArrowWithHourglass = 13;
+
+std::optional<Qt::CursorShape> busyShape(int mousePointer) {
+  if (mousePointer == kHourglass) return Qt::WaitCursor;
+  if (mousePointer == kArrowWithHourglass) return Qt::BusyCursor;
+  return std::nullopt;
+}
+
+void usePointer(int mousePointer) {
+  if (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  if (const auto shape = busyShape(mousePointer)) QApplication::setOverrideCursor(*shape);
+}
+
+/// The usual pointer while a dialog waits for the user in the middle of long work.
+class UsualPointer {
+ public:
+  explicit UsualPointer(int former) : former_(former) { usePointer(0); }
+  ~UsualPointer() { usePointer(former_); }
+  UsualPointer(const UsualPointer&) = delete;
+  UsualPointer& operator=(const UsualPointer&) = delete;
+
+ private:
+  int former_;
+};
+
+}  // namespace
+
+QtDesktop::QtDesktop() : stack_(std::make_unique<WindowStack>()) {}
+
+QtDesktop::~QtDesktop() {
+  usePointer(0);
+}
+
+void QtDesktop::mainWindow(QWidget* window) {
+  stack_->mainWindow(window);
+}
+
+bool QtDesktop::capture(const std::string& path) {
+  QCoreApplication::processEvents();
+  if (stack_->top() == nullptr) return false;
+  if (!stack_->top()->grab().save(toQt(path), "png"))
+    throw ado::Error(0, "No se puede escribir el fichero " + path);
+  return true;
+}
+
+void QtDesktop::showModal(screen::Form& form) {
+  const UsualPointer pointer(mousePointer());
+  FormWindow window(form, *stack_, stack_->owner());
+  // Whatever ends the loop, the form is closed and off the stack when this function is left.
+  struct Shown {
+    QtDesktop& desktop;
+    screen::Form& form;
+    FormWindow& window;
+    ~Shown() { desktop.close(form, window); }
+  } const guard{*this, form, window};
+  forms_.push_back(&form);
+  window.open();
+  stack_->rethrow();
+  if (!scripted()) {
+    window.waitUntilClosed();
+    stack_->rethrow();
+    return;
+  }
+  while (form.loaded()) {
+    QCoreApplication::processEvents();
+    if (form.loaded()) whileShown(form);
+  }
+}
+
+void QtDesktop::close(screen::Form& form, QWidget& window) {
+  try {
+    form.Unload();
+  } catch (const std::exception&) {
+    // Another failure is on its way already; the form is closed all the same.
+  }
+  std::erase(forms_, &form);
+  stack_->closed(window);
+  if (onClosed) onClosed(form);
+}
+
+void QtDesktop::dialogShown() {
+  QCoreApplication::processEvents();
+  if (onDialogShown) onDialogShown();
+}
+
+screen::Answer QtDesktop::messageBox(const screen::MessageBox& box) {
+  const UsualPointer pointer(mousePointer());
+  MessageDialog dialog(*stack_, box);
+  dialog.open();
+  if (!scripted() && !onMessage) {
+    dialog.exec();
+    return dialog.answer();
+  }
+  dialogShown();
+  const auto reply = onMessage ? onMessage(box) : Reply<screen::Answer>{box.defaultAnswer()};
+  Robot(*this).answer(dialog, reply.value, reply.byEnter);
+  return dialog.answer();
+}
+
+std::optional<std::size_t> QtDesktop::chooseFromList(const screen::ListDialog& dialog) {
+  const UsualPointer pointer(mousePointer());
+  ChoiceDialog window(*stack_, dialog);
+  window.open();
+  if (!scripted() && !onList) {
+    window.exec();
+    return window.chosen();
+  }
+  dialogShown();
+  const auto reply = onList ? onList(dialog) : Reply<std::optional<std::size_t>>{};
+  if (reply.value && *reply.value >= dialog.rows.size())
+    throw std::out_of_range("La lista «" + dialog.title + "» no tiene la fila " +
+                            std::to_string(*reply.value + 1));
+  Robot(*this).answer(window, reply.value, reply.byEnter);
+  return window.chosen();
+}
+
+std::optional<std::string> QtDesktop::chooseFile(const screen::FileDialog& dialog) {
+  if (onFile) return onFile(dialog);
+  if (scripted()) return std::nullopt;
+  const UsualPointer pointer(mousePointer());
+  return askForFile(*stack_, dialog.filter);
+}
+
+void QtDesktop::sendKeys(std::string_view keys) {
+  for (const char32_t character : ado::toCodePoints(keys))
+    stack_->sendKey(screen::keyTyping(character));
+}
+
+void QtDesktop::processEvents() {
+  QCoreApplication::processEvents();
+  stack_->settle();
+}
+
+screen::Picture QtDesktop::loadPicture(const std::string& path) {
+  return readPicture(path);
+}
+
+void QtDesktop::savePicture(const screen::Picture& picture, const std::string& path) {
+  writePicture(picture, path);
+}
+
+void QtDesktop::mousePointer(int shape) {
+  Desktop::mousePointer(shape);
+  usePointer(shape);
+}
+
+ado::Moment QtDesktop::now() const {
+  return clock ? *clock : Desktop::now();
+}
+
+}  // namespace korvantes::desktop

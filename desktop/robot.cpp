@@ -1,0 +1,268 @@
+#include "desktop/robot.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <stdexcept>
+
+#include "desktop/cell_button.h"
+#include "desktop/choice_dialog.h"
+#include "desktop/form_window.h"
+#include "desktop/input_events.h"
+#include "desktop/look.h"
+#include "desktop/message_dialog.h"
+#include "desktop/row_table.h"
+#include "desktop/window_stack.h"
+#include "outside/ado/utf8.h"
+
+namespace korvantes::desktop {
+
+namespace {
+
+const screen::Key kEnter = screen::keyTyping(U'\r');
+const screen::Key kEscape = screen::keyTyping(27);
+
+/// Where the caret stands, or the end of the text: a click there changes no selection.
+QPoint caretPlace(const QLineEdit& field, const screen::TextBox& box) {
+  const bool atEnd =
+      box.SelStart() == static_cast<int>(ado::characterCount(box.Text())) || !field.hasFocus();
+  const QPoint caret = field.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+  return atEnd ? QPoint(field.width() - 4, field.height() / 2) : caret;
+}
+
+}  // namespace
+
+FormWindow& Robot::window() const {
+  FormWindow* const window = desktop_.stack_->topForm();
+  if (window == nullptr) throw std::logic_error("No hay ninguna pantalla abierta");
+  return *window;
+}
+
+/// What the toolkit kept back is for the script.
+void Robot::done() {
+  desktop_.stack_->rethrow();
+}
+
+bool Robot::direct(const std::function<bool(screen::UserInput&)>& action) {
+  bool result = false;
+  window().report([&](screen::UserInput& user) { result = action(user); });
+  done();
+  return result;
+}
+
+bool Robot::clickOn(screen::Control& control) {
+  window().reveal(control);
+  QWidget& widget = window().faceOf(control)->widget();
+  const QRect area = widget.rect();
+  for (const QPoint& place : {area.center(), area.topLeft() + QPoint(4, 4),
+                              area.bottomRight() - QPoint(4, 4), QPoint(area.right() - 4, 4)}) {
+    if (!canBeHit(widget, place)) continue;
+    sendClick(widget, place);
+    done();
+    return true;
+  }
+  return false;
+}
+
+bool Robot::moveFocus(screen::Control& control) {
+  const auto hasFocus = [&] {
+    return desktop_.forms_.empty() ? false : control.form().ActiveControl() == &control;
+  };
+  if (control.kind() == screen::Control::Kind::TextBox && control.canTakeFocus()) {
+    window().reveal(control);
+    auto& field = static_cast<QLineEdit&>(window().faceOf(control)->widget());
+    const QPoint place = caretPlace(field, static_cast<screen::TextBox&>(control));
+    if (canBeHit(field, place)) {
+      sendClick(field, place);
+      done();
+      return hasFocus();
+    }
+  }
+  return direct([&](screen::UserInput& user) { return user.moveFocus(control); });
+}
+
+void Robot::stroke(const screen::Key& key) {
+  window();
+  sendPress(*desktop_.stack_->top(), key);
+  if (QWidget* top = desktop_.stack_->top()) sendRelease(*top, key);
+  done();
+  settle();
+}
+
+void Robot::type(std::string_view text) {
+  for (const char32_t character : ado::toCodePoints(text)) stroke(screen::keyTyping(character));
+}
+
+bool Robot::paste(std::string_view text) {
+  const screen::Control* active = window().form().ActiveControl();
+  const bool field = active != nullptr && (active->kind() == screen::Control::Kind::TextBox ||
+                                           active->kind() == screen::Control::Kind::ComboBox);
+  if (!field || !active->usable() || window().focusWidget() == nullptr)
+    return direct([&](screen::UserInput& user) { return user.paste(text); });
+  const auto* box = dynamic_cast<const screen::TextBox*>(active);
+  const auto* combo = dynamic_cast<const screen::ComboBox*>(active);
+  QInputMethodEvent event;
+  event.setCommitString(toQt(text));
+  QCoreApplication::sendEvent(window().focusWidget(), &event);
+  done();
+  return box != nullptr ? !box->Locked() : combo->Editable();
+}
+
+bool Robot::clearText() {
+  return direct([](screen::UserInput& user) { return user.clearText(); });
+}
+
+bool Robot::click(screen::Control& control) {
+  using Kind = screen::Control::Kind;
+  const bool pushed = control.kind() == Kind::PictureButton || control.kind() == Kind::CheckBox ||
+                      control.kind() == Kind::OptionButton;
+  if (!control.usable()) return false;
+  if (pushed && clickOn(control)) return true;
+  return direct([&](screen::UserInput& user) { return user.click(control); });
+}
+
+/// Scrolls to the cell and clicks in it.
+bool Robot::clickCell(screen::Control& control, int row, int column,
+                      const std::function<QPoint(const QModelIndex& cell)>& place) {
+  if (!control.usable()) return false;
+  window().reveal(control);
+  window().showNow();
+  auto& table = static_cast<RowTable&>(window().faceOf(control)->widget());
+  const QModelIndex cell = table.model()->index(row, column);
+  if (!cell.isValid()) return false;
+  table.scrollTo(cell);
+  const QPoint target = place(cell);
+  if (!canBeHit(*table.viewport(), target)) return false;
+  sendClick(*table.viewport(), target);
+  done();
+  return true;
+}
+
+bool Robot::tick(screen::ListView& list, std::size_t row, bool checked) {
+  if (!list.usable() || row >= list.Count()) return false;
+  if (list.item(row).Checked != checked) {
+    const auto mark = [&](const QModelIndex& cell) {
+      return static_cast<RowTable&>(window().faceOf(list)->widget()).checkMark(cell).center();
+    };
+    if (clickCell(list, static_cast<int>(row), 0, mark)) return true;
+  }
+  return direct([&](screen::UserInput& user) { return user.tick(list, row, checked); });
+}
+
+bool Robot::clickColumn(screen::ListView& list, int column) {
+  if (!list.usable()) return false;
+  window().reveal(list);
+  auto& table = static_cast<RowTable&>(window().faceOf(list)->widget());
+  QHeaderView& header = *table.horizontalHeader();
+  const int section = column - 1;
+  if (section >= 0 && section < header.count() && !header.isSectionHidden(section)) {
+    table.scrollTo(table.model()->index(list.SelectedRow(), section));
+    const QPoint place(header.sectionViewportPosition(section) + header.sectionSize(section) / 2,
+                       header.height() / 2);
+    if (canBeHit(*header.viewport(), place)) {
+      sendClick(*header.viewport(), place);
+      done();
+      return true;
+    }
+  }
+  return direct([&](screen::UserInput& user) { return user.clickColumn(list, column); });
+}
+
+bool Robot::selectEntry(screen::ComboBox& combo, int entry) {
+  if (!combo.usable() || entry < 0 || entry >= combo.ListCount()) return false;
+  window().reveal(combo);
+  window().showNow();
+  auto& widget = static_cast<QComboBox&>(window().faceOf(combo)->widget());
+  if (!canBeHit(widget, widget.rect().center()))
+    return direct([&](screen::UserInput& user) { return user.selectEntry(combo, entry); });
+  sendPressOnly(widget, widget.rect().center());
+  done();
+  // The list opens only where the focus has come.
+  QAbstractItemView& view = *widget.view();
+  if (!view.isVisible()) return false;
+  view.setCurrentIndex(view.model()->index(entry, 0));
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+  QCoreApplication::sendEvent(&view, &enter);
+  done();
+  return true;
+}
+
+bool Robot::typeEntry(screen::ComboBox& combo, std::string_view text) {
+  return direct([&](screen::UserInput& user) { return user.typeEntry(combo, text); });
+}
+
+bool Robot::selectRow(screen::DataGrid& grid, std::size_t row) {
+  if (!grid.usable() || row >= grid.RowCount()) return false;
+  auto& table = static_cast<RowTable&>(window().faceOf(grid)->widget());
+  for (int column = 0; column < static_cast<int>(grid.ColumnCount()); ++column) {
+    if (table.isColumnHidden(column) || grid.Columns(static_cast<std::size_t>(column)).Button)
+      continue;
+    const auto middle = [&](const QModelIndex& cell) { return table.visualRect(cell).center(); };
+    if (clickCell(grid, static_cast<int>(row), column, middle)) return true;
+  }
+  return direct([&](screen::UserInput& user) { return user.selectRow(grid, row); });
+}
+
+bool Robot::pressCellButton(screen::DataGrid& grid, int column) {
+  const auto current = grid.currentRow();
+  if (!grid.usable() || !current || column < 0 ||
+      static_cast<std::size_t>(column) >= grid.ColumnCount())
+    return false;
+  const screen::DataGrid::Column& pressed = grid.Columns(static_cast<std::size_t>(column));
+  if (!pressed.Button || !pressed.Visible) return false;
+  const auto button = [&](const QModelIndex& cell) {
+    const auto& table = static_cast<RowTable&>(window().faceOf(grid)->widget());
+    return cellButton(table.visualRect(cell)).center();
+  };
+  if (clickCell(grid, static_cast<int>(*current), column, button)) return true;
+  return direct([&](screen::UserInput& user) { return user.pressCellButton(grid, column); });
+}
+
+void Robot::close() {
+  window().close();
+  done();
+}
+
+void Robot::settle() {
+  desktop_.stack_->settle();
+  done();
+}
+
+void Robot::answer(MessageDialog& dialog, screen::Answer answer, bool byEnter) {
+  QPushButton* const button = dialog.button(answer);
+  if (button == nullptr) throw std::logic_error("El mensaje no tiene ese botón");
+  if (byEnter) {
+    button->setFocus();
+    sendPress(dialog, kEnter);
+    if (QWidget* below = desktop_.stack_->top()) sendRelease(*below, kEnter);
+  } else {
+    sendClick(*button, button->rect().center());
+  }
+  if (dialog.isVisible()) throw std::logic_error("El mensaje no se ha cerrado");
+}
+
+void Robot::answer(ChoiceDialog& dialog, std::optional<std::size_t> row, bool byEnter) {
+  if (row) {
+    RowTable& table = dialog.table();
+    const QModelIndex cell = table.model()->index(static_cast<int>(*row), 1);
+    table.scrollTo(cell);
+    const QPoint place = table.visualRect(cell).topLeft() + QPoint(4, 4);
+    sendClick(*table.viewport(), place, byEnter ? Clicks::Single : Clicks::Double);
+  } else if (byEnter) {
+    dialog.leaveButton().setFocus();
+  } else {
+    sendPress(dialog, kEscape);
+    if (QWidget* below = desktop_.stack_->top()) sendRelease(*below, kEscape);
+  }
+  if (byEnter) {
+    sendPress(dialog, kEnter);
+    if (QWidget* below = desktop_.stack_->top()) sendRelease(*below, kEnter);
+  }
+  if (dialog.isVisible()) throw std::logic_error("La lista no se ha cerrado");
+}
+
+}  // namespace korvantes::desktop

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QTableView>
+#include <functional>
+#include <optional>
+
+namespace korvantes::desktop {
+
+/// A table of rows for lists and grids: one current row, rows of one height, headings that always
+/// show their captions. The table decides nothing: presses are handed to the functions below, keys
+/// to the form, and the current row is set from outside.
+class RowTable : public QTableView {
+ public:
+  explicit RowTable(QWidget& parent);
+
+  /// The left button went down on a cell.
+  std::function<void(const QModelIndex& cell, const QPoint& place)> onPress;
+  std::function<void(const QModelIndex& cell, const QPoint& place)> onDoubleClick;
+  /// The left button went down where no row is.
+  std::function<void()> onPressOutside;
+  std::function<void(int column)> onHeading;
+
+  /// Marks the row and brings it into view.
+  void showCurrentRow(std::optional<int> row);
+  /// Adapts the height of the headings to their captions. Call after a change of columns.
+  void fitHeadings();
+  void colors(const QColor& back, const QColor& text);
+  void type(const QFont& font);
+  /// Where the check mark of a cell stands.
+  QRect checkMark(const QModelIndex& cell) const;
+
+ protected:
+  bool viewportEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace korvantes::desktop

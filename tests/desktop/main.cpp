@@ -1,0 +1,12 @@
+#include <cstdlib>
+#include <gmock/gmock.h>
+
+#include "desktop/application.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleMock(&argc, argv);
+  // Another platform can be asked for from outside.
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  const korvantes::desktop::Application application("desktop_test");
+  return RUN_ALL_TESTS();
+}
