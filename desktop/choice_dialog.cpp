@@ -85,7 +85,9 @@ ChoiceDialog::ChoiceDialog(WindowStack& stack, const screen::ListDialog& dialog)
   table_.setModel(&makeChild<ChoiceModel>(dialog, this));
   table_.horizontalHeader()->setSectionsClickable(false);
   table_.horizontalHeader()->setStretchLastSection(true);
-  table_.setColumnWidth(0, pixels(dialog.codeWidth));
+  table_.setShowGrid(false);
+  const int codes = std::max(pixels(dialog.codeWidth), table_.headingWidth(0) + 4);
+  table_.setColumnWidth(0, codes);
   table_.setColumnWidth(1, pixels(dialog.nameWidth));
   table_.fitHeadings();
   table_.setFocusProxy(&searched_);
@@ -112,7 +114,7 @@ ChoiceDialog::ChoiceDialog(WindowStack& stack, const screen::ListDialog& dialog)
   connect(leave_, &QPushButton::clicked, this, [this] { reject(); });
   connect(&searched_, &QLineEdit::textEdited, this, [this](const QString& text) { search(text); });
 
-  const int columns = pixels(dialog.codeWidth) + pixels(dialog.nameWidth);
+  const int columns = codes + pixels(dialog.nameWidth);
   resize(std::max(kNarrowest, columns + table_.verticalScrollBar()->sizeHint().width() + 28),
          kHeight);
   if (!dialog.rows.empty()) table_.showCurrentRow(0);

@@ -63,7 +63,7 @@ class ChoiceWidget : public Button {
 
     const FittedText text = shown();
     QColor color = colorOf(control_.ForeColor());
-    if (!this->isEnabled()) color = mixed(color, colorOf(control_.BackColor()), 0.5);
+    if (!this->isEnabled()) color = mixed(color, colorOf(control_.BackColor()), 0.4);
     painter.setFont(text.font);
     painter.setPen(color);
     const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextDontClip;

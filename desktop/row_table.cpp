@@ -126,6 +126,7 @@ RowTable::RowTable(QWidget& parent) : QTableView(&parent) {
   setItemDelegate(&makeChild<RowDelegate>(this));
   auto& header = makeChild<CaptionHeader>(this);
   setHorizontalHeader(&header);
+  header.setPalette(quietPalette());  // not the colours of the form
   header.setHighlightSections(false);
   header.setMinimumSectionSize(16);
   header.setSectionsClickable(true);
@@ -173,6 +174,11 @@ void RowTable::type(const QFont& font) {
   fitHeadings();
 }
 
+int RowTable::headingWidth(int column) const {
+  const QString caption = model()->headerData(column, Qt::Horizontal).toString();
+  return horizontalHeader()->fontMetrics().horizontalAdvance(caption) + 2 * kHeadingMargin;
+}
+
 QRect RowTable::checkMark(const QModelIndex& cell) const {
   QStyleOptionViewItem option;
   initViewItemOption(&option);
@@ -202,6 +208,15 @@ bool RowTable::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseMove)
     return true;
   return QTableView::viewportEvent(event);
+}
+
+/// The focus shows also where no row is.
+void RowTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void RowTable::keyPressEvent(QKeyEvent* event) {

@@ -26,11 +26,14 @@ class RowTable : public QTableView {
   void fitHeadings();
   void colors(const QColor& back, const QColor& text);
   void type(const QFont& font);
+  /// Width that shows the caption of a column in its usual type.
+  int headingWidth(int column) const;
   /// Where the check mark of a cell stands.
   QRect checkMark(const QModelIndex& cell) const;
 
  protected:
   bool viewportEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 };
 

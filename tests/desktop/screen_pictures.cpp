@@ -5,13 +5,13 @@
 #include <iostream>
 #include <string>
 
+#include "component/KORVAN.h"
 #include "desktop/application.h"
 #include "desktop/robot.h"
-#include "host/component_session.h"
 #include "host/sample_data.h"
-#include "host/screens.h"
-#include "host/temporary_folder.h"
+#include "settlement/frmNewLiquidAgentes.h"
 #include "tests/desktop/sample_form.h"
+#include "tests/support/temporary_database.h"
 
 namespace korvantes {
 
@@ -69,12 +69,12 @@ void photographAll(const std::filesystem::path& folder) {
   desktop.regional(screen::Regional::named("es-ES"));
   desktop.clock = ado::Moment{{2026, 7, 1}, 43200};
   screen::Desktop::makeCurrent(&desktop);
-  const host::TemporaryFolder work;
-  const host::Database database =
-      host::openFile((work.path() / "fotos.db").string(), host::OpenMode::Create);
-  host::createTables(database, host::loadSampleData);
-  const host::ComponentSession session(database);
-  const host::Screens screens = host::screensOf(session.component());
+  const support::TemporaryDatabase database;
+  database.connection()->BeginTrans();
+  host::loadSampleData(*database.connection());
+  database.connection()->CommitTrans();
+  const auto component = KORVAN::Create();
+  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection()));
 
   Photographer photographer(folder, desktop);
   desktop::Robot robot(desktop);
@@ -88,12 +88,14 @@ void photographAll(const std::filesystem::path& folder) {
     return desktop::QtDesktop::Reply<std::optional<std::size_t>>{0};
   };
   desktop.whileShown = [&](screen::Form& form) { enterSettlement(robot, form, photographer); };
-  screens.at("liquidacion")(std::nullopt);
+  component->jShowNewLiqui();
   desktop.whileShown = [&](screen::Form&) {
     photographer.take("10-liquidacion-guardada");
     robot.close();
   };
-  screens.at("liquidacion")(1);
+  frmNewLiquidAgentes stored;
+  stored.nLiqui = 1;
+  stored.Show();
 
   desktop::SampleForm sample;
   desktop.whileShown = [&](screen::Form&) {
@@ -109,6 +111,7 @@ void photographAll(const std::filesystem::path& folder) {
         {"¿Seguro que desea borrar esta liquidación?\nNo se puede deshacer, y sus "
          "albaranes vuelven a quedar pendientes de liquidar al agente.",
          style, "Liquidación de comisiones a agentes"});
+  component->MyBd(nullptr);
   screen::Desktop::makeCurrent(nullptr);
 }
 
