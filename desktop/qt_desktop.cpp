@@ -137,8 +137,10 @@ std::optional<std::size_t> QtDesktop::chooseFromList(const screen::ListDialog& d
 }
 
 std::optional<std::string> QtDesktop::chooseFile(const screen::FileDialog& dialog) {
-  if (onFile) return onFile(dialog);
-  if (scripted()) return std::nullopt;
+  if (onFile || scripted()) {
+    stack_->passed();
+    return onFile ? onFile(dialog) : std::nullopt;
+  }
   const UsualPointer pointer(mousePointer());
   return askForFile(*stack_, dialog.filter);
 }

@@ -78,7 +78,9 @@ class TextWidget : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override {
     if (!hasModelFocus()) return;
     if (event->button() == Qt::MiddleButton) {
-      if (QGuiApplication::clipboard()->supportsSelection()) pasteFrom(QClipboard::Selection);
+      if (!QGuiApplication::clipboard()->supportsSelection()) return;
+      moveCaret(event->position());
+      pasteFrom(QClipboard::Selection);
     } else if (event->button() == Qt::LeftButton) {
       if (QGuiApplication::clipboard()->supportsSelection()) copySelection(QClipboard::Selection);
     }
@@ -97,7 +99,9 @@ class TextWidget : public QLineEdit {
     const QString text = event->mimeData()->text();
     event->acceptProposedAction();
     window_.report([&](screen::UserInput& user) { user.moveFocus(box_); });
-    if (hasModelFocus()) give(text);
+    if (!hasModelFocus()) return;
+    moveCaret(event->position());
+    give(text);
   }
 
   /// What is being composed is shown; what has been composed is pasted.
@@ -131,6 +135,11 @@ class TextWidget : public QLineEdit {
 
  private:
   bool hasModelFocus() const { return window_.form().ActiveControl() == &box_; }
+
+  void moveCaret(const QPointF& place) {
+    box_.SelStart = fromQtPlace(text(), cursorPositionAt(place.toPoint()));
+    box_.SelLength = 0;
+  }
 
   void give(const QString& text) {
     if (text.isEmpty()) return;

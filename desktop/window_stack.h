@@ -24,6 +24,8 @@ class WindowStack : public QObject {
 
   void opened(QWidget& window, FormWindow* form = nullptr);
   void closed(QWidget& window);
+  /// A dialog came and went that a script answered without showing it.
+  void passed() { changed(); }
 
   /// The topmost window, form or dialog; nullptr when none is open.
   QWidget* top() const { return windows_.empty() ? nullptr : windows_.back().widget; }

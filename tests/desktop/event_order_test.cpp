@@ -177,6 +177,20 @@ TEST(EventOrder, ReleaseOfTheKeyThatOpenedAWindowStaysThere) {
     see(user, form);
   });
   EXPECT_THAT(log, Not(Contains(testing::HasSubstr("KeyUp 13"))));
+
+  const auto asksForFile = [](auto& desktop, SampleForm& form) {
+    desktop.onFile = [](const screen::FileDialog&) { return std::optional<std::string>("a.bmp"); };
+    form.save.Click = [&form] {
+      form.log("file", form.files.ShowOpen() ? form.files.FileName() : "");
+    };
+  };
+  EXPECT_THAT(sameOnBoth(asksForFile,
+                         [](auto& user, SampleForm& form) {
+                           user.moveFocus(form.save);
+                           form.events.clear();
+                           user.stroke(*keyNamed("Enter"));
+                         }),
+              ElementsAre("file a.bmp", "Form Unload", "SampleForm closed"));
 }
 
 }  // namespace korvantes::desktop

@@ -21,9 +21,9 @@ QLineEdit& fieldOf(const screen::TextBox& box) {
 void drop(QLineEdit& field, const QString& text) {
   QMimeData data;
   data.setText(text);
-  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QDragEnterEvent enter(QPoint(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(&field, &enter);
-  QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QDropEvent event(QPointF(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(&field, &event);
 }
 
@@ -109,6 +109,17 @@ TEST(Typing, MousePlacesTheModelsCaretInCharacters) {
     EXPECT_EQ(form.Text1(1).SelStart(), 2);
     robot.type("X");
     EXPECT_EQ(form.Text1(1).Text(), "\U0001F600ñXab");
+  });
+}
+
+TEST(Typing, WhatIsDroppedLandsWhereItIsDropped) {
+  RealStage desktop;
+  SampleForm form;
+  form.Text1(1).Text = "abc";
+  playReal(desktop, form, [&](Robot&) {
+    drop(fieldOf(form.Text1(1)), "X");  // at the left end
+    EXPECT_EQ(form.ActiveControl(), &form.Text1(1));
+    EXPECT_EQ(form.Text1(1).Text(), "Xabc");
   });
 }
 
