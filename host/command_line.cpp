@@ -9,7 +9,8 @@
 namespace korvantes::host {
 
 const std::string_view kHelp =
-    R"(korvantes-host [--base URL] [--regional es-ES] [--hoy dd/mm/aaaa] [--salida CARPETA] [orden …]
+    R"(korvantes-host [--base URL] [--regional es-ES] [--hoy dd/mm/aaaa] [--salida CARPETA]
+               [--escritorio] [orden …]
 
 Órdenes:
   (sin orden)               abre el escritorio; sin pantalla, reproduce la liquidación de muestra
@@ -19,14 +20,15 @@ const std::string_view kHelp =
                             separadas por líneas GO; los resultados salen separados por tabuladores
   comision ORIGEN ID IDLI   comisión de un pedido (origen 2) o de un albarán (origen 3); con IDLI
                             distinto de 0, la de esa línea
-  guion FICHERO|-           maneja las pantallas reales, sin pantalla, y cuenta lo que ocurre
+  guion FICHERO|-           maneja los formularios como un usuario y cuenta lo que ocurre
 
 Opciones:
   --base URL                sqlite:RUTA u odbc:CADENA DE CONEXIÓN; sin ella, una base de muestra en
                             la carpeta de datos del usuario, que se crea la primera vez
   --regional NOMBRE         ajustes regionales: es-ES, en-US…; sin ella, los de la máquina
   --hoy dd/mm/aaaa          la fecha que los guiones toman por la de hoy
-  --salida CARPETA          dónde quedan informes y hojas de cálculo sin pantalla (out)
+  --salida CARPETA          dónde quedan informes, hojas de cálculo y capturas (out)
+  --escritorio              los guiones manejan ventanas de verdad, con su teclado y su ratón
   --ayuda, --version        esta ayuda, el número de versión
 
 Acaba con 0, o con 1 y una línea en la salida de errores.
@@ -77,6 +79,8 @@ void readOption(const std::string& argument, Arguments& rest, CommandLine& line)
   } else if (name == "--salida") {
     line.output = value();
     if (line.output.empty()) throw Failure("--salida: falta la carpeta");
+  } else if (argument == "--escritorio") {
+    line.desktop = true;
   } else if (argument == "--ayuda" || argument == "--help") {
     line.help = true;
   } else if (argument == "--version") {

@@ -17,7 +17,8 @@ struct CommandLine {
   std::optional<std::string> base;  ///< URL of the database; the sample database without it
   std::optional<screen::Regional> regional;  ///< the machine's without it
   std::optional<ado::Date> today;            ///< the machine's without it
-  /// Where reports and spreadsheets go when there is no display.
+  bool desktop = false;                      ///< real windows, also for scripts
+  /// Where reports, spreadsheets and pictures go when there is no display.
   std::filesystem::path output = "out";
   bool help = false;
   bool version = false;

@@ -65,7 +65,7 @@ Database openFile(const std::string& path, OpenMode mode) {
   sqlite::OpenOptions options;
   options.create = mode == OpenMode::Create;
   auto connection = std::make_shared<sqlite::SqliteConnection>(path, options);
-  return {connection, [connection] { return connection->hasTables(); }};
+  return {connection, [connection] { return connection->hasTables(); }, path};
 }
 
 Database openDatabase(const std::optional<std::string>& url, OpenMode mode) {

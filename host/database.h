@@ -13,6 +13,7 @@ namespace korvantes::host {
 struct Database {
   std::shared_ptr<ado::Connection> connection;
   std::function<bool()> hasTables;
+  std::string name;  ///< for the user: the file
 };
 
 enum class OpenMode {

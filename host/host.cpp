@@ -8,6 +8,8 @@
 #include "host/command_line.h"
 #include "host/failure.h"
 #include "host/orders.h"
+#include "host/version.h"
+#include "host/windows.h"
 
 namespace korvantes::host {
 namespace {
@@ -25,6 +27,10 @@ constexpr NamedOrder kOrders[] = {
 };
 
 void runWithoutOrder(const CommandLine& line, Streams streams) {
+  if (line.desktop || (hasWindows() && displayAvailable())) {
+    runDesktop(line);
+    return;
+  }
   if (line.base)
     throw Failure("sin pantalla hace falta una orden para trabajar con --base; véase --ayuda");
   playSampleSettlement(line, streams);
@@ -36,7 +42,7 @@ void run(const CommandLine& line, Streams streams) {
     return;
   }
   if (line.version) {
-    streams.out << kProgram << ' ' << KORVANTES_VERSION << '\n';
+    streams.out << kProgram << ' ' << kVersionText << '\n';
     return;
   }
   if (line.order.empty()) {

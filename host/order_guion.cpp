@@ -1,15 +1,18 @@
+#include <memory>
 #include <ostream>
 
 #include "host/component_session.h"
 #include "host/database.h"
 #include "host/failure.h"
+#include "host/headless_stage.h"
 #include "host/input_text.h"
 #include "host/orders.h"
 #include "host/sample_data.h"
 #include "host/screens.h"
 #include "host/script_player.h"
 #include "host/temporary_folder.h"
-#include "outside/screen/headless_desktop.h"
+#include "host/version.h"
+#include "host/windows.h"
 
 namespace korvantes::host {
 namespace {
@@ -19,18 +22,23 @@ constexpr int kNoon = 12 * 60 * 60;
 /// The day on which the sample settlement is made, whatever the machine's clock says: the rates in
 /// force and the dates that are accepted depend on it.
 constexpr ado::Date kSampleToday = {2026, 7, 1};
-constexpr screen::ProgramVersion kVersion = {KORVANTES_VERSION_NUMBERS};
+
+std::unique_ptr<ScriptStage> makeStage(bool withWindows) {
+  if (withWindows) return makeWindowStage();
+  return std::make_unique<HeadlessStage>();
+}
 
 /// Throws Failure when lines of the script could not be done.
-void play(std::string_view script, const CommandLine& line, const Database& database,
-          std::ostream& out) {
-  screen::HeadlessDesktop desktop;
+void play(ScriptStage& stage, std::string_view script, const CommandLine& line,
+          const Database& database, std::ostream& out) {
+  screen::Desktop& desktop = stage.desktop();
   if (line.regional) desktop.regional(*line.regional);
-  if (line.today) desktop.clock = ado::Moment{*line.today, kNoon};
+  if (line.today) stage.clock({*line.today, kNoon});
   desktop.version(kVersion);
 
   const ComponentSession session(database);
-  ScriptPlayer player(desktop, *database.connection, screensOf(session.component()), out);
+  ScriptPlayer player(stage, *database.connection, screensOf(session.component()), out,
+                      line.output);
   const int errors = player.play(script);
   if (errors > 0)
     throw Failure("el guion ha dado errores: " + std::to_string(errors) +
@@ -44,7 +52,7 @@ void orderScript(const CommandLine& line, Streams streams) {
     throw Failure("guion: se espera un FICHERO, o - para leerlo de la entrada");
   const Database database = openDatabase(line.base, OpenMode::Existing);
   const std::string script = readInput(line.arguments.front(), streams.in);
-  play(script, line, database, streams.out);
+  play(*makeStage(line.desktop), script, line, database, streams.out);
 }
 
 void playSampleSettlement(const CommandLine& line, Streams streams) {
@@ -55,7 +63,7 @@ void playSampleSettlement(const CommandLine& line, Streams streams) {
   createTables(database, loadSampleData);
   CommandLine sampleLine = line;
   if (!sampleLine.today) sampleLine.today = kSampleToday;
-  play(kSampleSettlement, sampleLine, database, streams.out);
+  play(*makeStage(hasWindows()), kSampleSettlement, sampleLine, database, streams.out);
 }
 
 }  // namespace korvantes::host

@@ -2,17 +2,17 @@
 
 #include <string_view>
 
-#include "host/script_stage.h"
+#include "host/script_run.h"
 
 namespace korvantes::host {
 
 /// Does what one line of a script says: a verb and its words. What happens goes to the transcript;
 /// the events that it set off have run when this returns.
 /// Throws Failure for a line that cannot be done, and what a screen that was being opened throws.
-void performAction(ScriptStage& stage, std::string_view line);
+void performAction(ScriptRun& run, std::string_view line);
 
 /// The action "ver": prints a control, one of its properties, a property of the form, "foco" or
 /// "pantalla".
-void showOnTranscript(ScriptStage& stage, std::string_view subject);
+void showOnTranscript(ScriptRun& run, std::string_view subject);
 
 }  // namespace korvantes::host

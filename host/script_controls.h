@@ -3,21 +3,21 @@
 #include <string_view>
 
 #include "host/failure.h"
-#include "host/script_stage.h"
+#include "host/script_run.h"
 
 namespace korvantes::host {
 
 /// A control of the topmost form, by its identity. Throws Failure when there is none.
-screen::Control& findControl(const ScriptStage& stage, std::string_view identity);
+screen::Control& findControl(const ScriptRun& run, std::string_view identity);
 
 /// The same, for an action on it: a hidden or a disabled one, or one in a disabled frame, is a
 /// Failure too.
-screen::Control& usableControl(const ScriptStage& stage, std::string_view identity);
+screen::Control& usableControl(const ScriptRun& run, std::string_view identity);
 
 /// The control as the kind that an action needs; a Failure "Text1(0) no es un botón" otherwise.
 template <class T>
-T& usableControl(const ScriptStage& stage, std::string_view identity, std::string_view kindName) {
-  screen::Control& control = usableControl(stage, identity);
+T& usableControl(const ScriptRun& run, std::string_view identity, std::string_view kindName) {
+  screen::Control& control = usableControl(run, identity);
   T* wanted = dynamic_cast<T*>(&control);
   if (wanted == nullptr) throw Failure(control.identity() + " no es " + std::string(kindName));
   return *wanted;

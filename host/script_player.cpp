@@ -26,29 +26,31 @@ std::deque<std::string> linesOf(std::string_view script) {
 
 }  // namespace
 
-ScriptPlayer::ScriptPlayer(screen::HeadlessDesktop& desktop, ado::Connection& base, Screens screens,
-                           std::ostream& out)
-    : desktop_(desktop),
-      formerDesktop_(screen::Desktop::makeCurrent(&desktop)),
+ScriptPlayer::ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens screens,
+                           std::ostream& out, std::filesystem::path folder)
+    : stage_(stage),
+      formerDesktop_(screen::Desktop::makeCurrent(&stage.desktop())),
       screens_(std::move(screens)),
       transcript_(out),
       answers_(transcript_),
-      stage_{desktop, base, screens_, transcript_, answers_} {
-  desktop_.whileShown = [this](screen::Form& form) { playTopForm(form); };
-  desktop_.onMessage = [this](const screen::MessageBox& box) { return answers_.answer(box); };
-  desktop_.onList = [this](const screen::ListDialog& dialog) { return answers_.answer(dialog); };
-  desktop_.onFile = [this](const screen::FileDialog& dialog) { return answers_.answer(dialog); };
-  desktop_.onClosed = [this](const screen::Form& form) {
-    transcript_.happening("cerrado", form.name());
+      pictures_(stage, transcript_, std::move(folder)),
+      run_{stage, base, screens_, transcript_, answers_, pictures_} {
+  const auto answer = [this](const auto& dialog) {
+    const auto reply = answers_.answer(dialog);
+    pictures_.dialogShown();
+    return reply;
   };
+  stage_.follow(
+      {.whileShown = [this](screen::Form& form) { playTopForm(form); },
+       .onMessage = answer,
+       .onList = answer,
+       .onFile = [this](const screen::FileDialog& dialog) { return answers_.answer(dialog); },
+       .onClosed =
+           [this](const screen::Form& form) { transcript_.happening("cerrado", form.name()); }});
 }
 
 ScriptPlayer::~ScriptPlayer() {
-  desktop_.whileShown = nullptr;
-  desktop_.onMessage = nullptr;
-  desktop_.onList = nullptr;
-  desktop_.onFile = nullptr;
-  desktop_.onClosed = nullptr;
+  stage_.follow({});
   screen::Desktop::makeCurrent(formerDesktop_);
 }
 
@@ -68,7 +70,7 @@ bool ScriptPlayer::playNextLine() {
   transcript_.action(line);
   if (line.starts_with('#')) return true;
   try {
-    performAction(stage_, line);
+    performAction(run_, line);
   } catch (const std::exception& failure) {
     transcript_.error(failure.what());
   }
@@ -77,7 +79,7 @@ bool ScriptPlayer::playNextLine() {
 
 void ScriptPlayer::playTopForm(screen::Form& form) {
   if (playNextLine()) return;
-  desktop_.user().close();
+  stage_.close();
   form.Unload();
 }
 

@@ -1,24 +1,26 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 #include <string_view>
 
-#include "host/script_stage.h"
+#include "host/script_run.h"
 
 namespace korvantes::host {
 
 /// Plays the user from a script: one action a line, "#" begins a comment line. It drives the real
-/// screens on a headless desktop, which it makes the current one for its lifetime, and prints a
-/// transcript: each line behind "> " (blank ones aside), and under it what happened.
+/// screens on a stage, whose desktop is the current one for its lifetime, and prints a transcript:
+/// each line behind "> " (blank ones aside), and under it what happened.
 ///
 /// A line that cannot be done is an "[error]" and the run goes on. A form still open when the
 /// script has ended is closed.
 class ScriptPlayer {
  public:
-  ScriptPlayer(screen::HeadlessDesktop& desktop, ado::Connection& base, Screens screens,
-               std::ostream& out);
+  /// Pictures go to `folder`, where their names name none.
+  ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens screens, std::ostream& out,
+               std::filesystem::path folder = {});
   ~ScriptPlayer();
   ScriptPlayer(const ScriptPlayer&) = delete;
   ScriptPlayer& operator=(const ScriptPlayer&) = delete;
@@ -30,12 +32,13 @@ class ScriptPlayer {
   bool playNextLine();
   void playTopForm(screen::Form& form);
 
-  screen::HeadlessDesktop& desktop_;
+  ScriptStage& stage_;
   screen::Desktop* formerDesktop_;
   Screens screens_;
   Transcript transcript_;
   QueuedAnswers answers_;
-  ScriptStage stage_;
+  ScriptPictures pictures_;
+  ScriptRun run_;
   std::deque<std::string> lines_;
 };
 

@@ -25,23 +25,23 @@ void printControl(Transcript& transcript, const screen::Control& control) {
 
 }  // namespace
 
-void showOnTranscript(ScriptStage& stage, std::string_view text) {
+void showOnTranscript(ScriptRun& run, std::string_view text) {
   ScriptWords words(text);
   const std::string_view subject = words.word("qué hay que ver");
   words.end();
-  const screen::Form& form = stage.form();
+  const screen::Form& form = run.form();
   if (subject == "foco") {
     const screen::Control* active = form.ActiveControl();
-    stage.transcript.line("foco = " + (active == nullptr ? "ninguno" : active->identity()));
+    run.transcript.line("foco = " + (active == nullptr ? "ninguno" : active->identity()));
   } else if (subject == "pantalla") {
-    printLines(stage.transcript, formLines(form));
+    printLines(run.transcript, formLines(form));
   } else if (const screen::Control* control = form.findControl(subject)) {
-    printControl(stage.transcript, *control);
+    printControl(run.transcript, *control);
   } else if (const auto dot = subject.rfind('.'); dot != std::string_view::npos) {
-    stage.transcript.line(
-        propertyLine(findControl(stage, subject.substr(0, dot)), subject.substr(dot + 1)));
+    run.transcript.line(
+        propertyLine(findControl(run, subject.substr(0, dot)), subject.substr(dot + 1)));
   } else if (form.findProperty(subject) != nullptr) {
-    stage.transcript.line(propertyLine(form, subject));
+    run.transcript.line(propertyLine(form, subject));
   } else {
     throw Failure("no hay ningún control " + inQuotes(subject));
   }

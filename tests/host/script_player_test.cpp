@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "host/headless_stage.h"
 #include "tests/host/sample_form.h"
 #include "tests/support/recording_connection.h"
 
@@ -23,13 +24,13 @@ class ScriptPlayerTest : public testing::Test {
 
   std::string play(const std::string& script) {
     std::ostringstream out;
-    screen::HeadlessDesktop desktop;
+    HeadlessStage stage;
     const Screens screens = {{"prueba", [](std::optional<std::int32_t> number) {
                                 SampleForm form;
                                 form.failsToLoad = number.has_value();
                                 form.Show();
                               }}};
-    ScriptPlayer player(desktop, connection_, screens, out);
+    ScriptPlayer player(stage, connection_, screens, out);
     errors_ = player.play(script);
     return out.str();
   }

@@ -1,0 +1,29 @@
+#include "host/failure.h"
+#include "host/windows.h"
+
+namespace korvantes::host {
+namespace {
+
+Failure refusal() {
+  return Failure("--escritorio: esta versión del programa no lleva ventanas");
+}
+
+}  // namespace
+
+bool hasWindows() {
+  return false;
+}
+
+bool displayAvailable() {
+  return false;
+}
+
+std::unique_ptr<ScriptStage> makeWindowStage() {
+  throw refusal();
+}
+
+void runDesktop(const CommandLine&) {
+  throw refusal();
+}
+
+}  // namespace korvantes::host

@@ -1,0 +1,42 @@
+#include "host/windows.h"
+
+#include <cstdlib>
+
+#include "host/desktop_window.h"
+#include "host/failure.h"
+#include "host/version.h"
+#include "host/window_stage.h"
+
+namespace korvantes::host {
+
+bool hasWindows() {
+  return true;
+}
+
+bool displayAvailable() {
+  return desktop::Application::displayAvailable();
+}
+
+std::unique_ptr<ScriptStage> makeWindowStage() {
+  return std::make_unique<WindowStage>();
+}
+
+void runDesktop(const CommandLine& line) {
+  // A window that nobody sees could not be closed either. Whoever names a platform knows why.
+  if (!displayAvailable() && std::getenv("QT_QPA_PLATFORM") == nullptr)
+    throw Failure("--escritorio: no hay pantalla; véase --ayuda");
+  desktop::Application application;
+  desktop::QtDesktop desktop;
+  if (line.regional) desktop.regional(*line.regional);
+  desktop.version(kVersion);
+  // Before the desktop goes, no screen may look for it any more.
+  struct Current {
+    explicit Current(screen::Desktop& desktop) { screen::Desktop::makeCurrent(&desktop); }
+    ~Current() { screen::Desktop::makeCurrent(nullptr); }
+  } const current(desktop);
+  DesktopWindow window(desktop);
+  window.openBase(line.base);
+  application.run(window);
+}
+
+}  // namespace korvantes::host

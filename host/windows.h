@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+#include "host/command_line.h"
+#include "host/script_stage.h"
+
+namespace korvantes::host {
+
+// What the program does with real windows. It can be built without them; then the functions that
+// need some throw Failure.
+
+/// Whether the program was built with windows.
+bool hasWindows();
+/// Whether there is a display to show them on.
+bool displayAvailable();
+
+/// A stage of real windows, on the display or, without one, drawn in memory. One at a time.
+std::unique_ptr<ScriptStage> makeWindowStage();
+
+/// Opens the main window and returns when it has been closed. Throws Failure without a display.
+void runDesktop(const CommandLine& line);
+
+}  // namespace korvantes::host
