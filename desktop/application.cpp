@@ -3,8 +3,7 @@
 #include <QApplication>
 #include <QImageReader>
 #include <QLibraryInfo>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QToolTip>
 #include <QTranslator>
 #include <QWidget>
@@ -60,6 +59,17 @@ void useUtf8() {
   setenv("LC_CTYPE", "C.UTF-8", 1);
 }
 
+/// Fusion, save that the list of a combo box opens below its field, as in the designed forms.
+class FormStyle : public QProxyStyle {
+ public:
+  FormStyle() : QProxyStyle("Fusion") {}
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_ComboBox_Popup) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
 }  // namespace
 
 /// What is set in the process's environment before Qt looks at it.
@@ -98,7 +108,7 @@ struct Application::Toolkit {
     // printf and strtod elsewhere in the program count on the decimal point.
     std::setlocale(LC_NUMERIC, "C");
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(std::make_unique<FormStyle>().release());  // owned from now on
     QApplication::setPalette(quietPalette());
     QApplication::setFont(fontOf({9, false}));
     QToolTip::setPalette(quietPalette());

@@ -250,16 +250,20 @@ void FormWindow::keyPressed(const QKeyEvent& event) {
   const quint64 identity = pressIdentity(event);
   // A key held down since before this window was on top does nothing here.
   if (event.isAutoRepeat() && !pressed_.contains(identity)) return;
-  pressed_.insert(identity);
   const screen::Key key = keyOf(event);
+  pressed_[identity] = key.code;
   report([&](screen::UserInput& user) { user.keyDown(key); });
   if (!form_.loaded() || form_.ActiveControl() == nullptr) return;
   if (ControlFace* face = faceOf(*form_.ActiveControl())) face->command(event);
 }
 
 void FormWindow::keyReleased(const QKeyEvent& event) {
-  if (event.isAutoRepeat() || pressed_.erase(pressIdentity(event)) == 0) return;
-  const screen::Key key = keyOf(event);
+  const auto press = pressed_.find(pressIdentity(event));
+  if (event.isAutoRepeat() || press == pressed_.end()) return;
+  // Shift let go first makes it another key to the toolkit, but not to the user.
+  screen::Key key = keyOf(event);
+  key.code = press->second;
+  pressed_.erase(press);
   report([&](screen::UserInput& user) { user.keyUp(key); });
 }
 

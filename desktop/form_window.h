@@ -68,7 +68,7 @@ class FormWindow : public QWidget, public FaceWindow, private screen::FormObserv
   QWidget& canvas_;
   std::map<const screen::Control*, std::unique_ptr<ControlFace>> faces_;
   std::set<ControlFace*> rowsToShow_;
-  std::set<quint64> pressed_;
+  std::map<quint64, int> pressed_;  ///< codes of the keys that are down, by pressIdentity
   bool showingLater_ = false;
   QEventLoop* loop_ = nullptr;
 };
