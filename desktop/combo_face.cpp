@@ -68,9 +68,9 @@ class ComboWidget : public QComboBox {
   void mousePressEvent(QMouseEvent* event) override {
     if (event->button() != Qt::LeftButton) return;
     window_.report([&](screen::UserInput& user) { user.moveFocus(combo_); });
-    if (window_.form().ActiveControl() == &combo_) showPopup();
+    // Opens the list, and keeps it open over the release of the button.
+    if (window_.form().ActiveControl() == &combo_) QComboBox::mousePressEvent(event);
   }
-  void mouseReleaseEvent(QMouseEvent*) override {}
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
   void inputMethodEvent(QInputMethodEvent* event) override {

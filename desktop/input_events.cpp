@@ -49,11 +49,6 @@ void sendClick(QWidget& widget, const QPoint& place, Clicks clicks) {
   sendMouse(window, QEvent::MouseButtonRelease, inWindow);
 }
 
-void sendPressOnly(QWidget& widget, const QPoint& place) {
-  sendMouse(widget.window()->windowHandle(), QEvent::MouseButtonPress,
-            widget.mapTo(widget.window(), place));
-}
-
 bool canBeHit(QWidget& widget, const QPoint& place) {
   if (!widget.isVisible() || !widget.rect().contains(place)) return false;
   const QWidget* hit = widget.window()->childAt(widget.mapTo(widget.window(), place));

@@ -17,7 +17,6 @@ void sendRelease(QWidget& window, const screen::Key& key);
 enum class Clicks { Single, Double };
 /// The left button at a place of a widget.
 void sendClick(QWidget& widget, const QPoint& place, Clicks clicks = Clicks::Single);
-void sendPressOnly(QWidget& widget, const QPoint& place);
 /// The place is not covered by another widget.
 bool canBeHit(QWidget& widget, const QPoint& place);
 

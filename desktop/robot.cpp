@@ -179,7 +179,7 @@ bool Robot::selectEntry(screen::ComboBox& combo, int entry) {
   auto& widget = static_cast<QComboBox&>(window().faceOf(combo)->widget());
   if (!canBeHit(widget, widget.rect().center()))
     return direct([&](screen::UserInput& user) { return user.selectEntry(combo, entry); });
-  sendPressOnly(widget, widget.rect().center());
+  sendClick(widget, widget.rect().center());
   done();
   // The list opens only where the focus has come.
   QAbstractItemView& view = *widget.view();
