@@ -1,0 +1,113 @@
+#include "host/desktop_window.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "desktop/application.h"
+#include "host/temporary_folder.h"
+
+namespace korvantes::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// The main window, without a user in front of its dialogs.
+class DesktopWindowTest : public testing::Test {
+ protected:
+  DesktopWindowTest() {
+    screen::Desktop::makeCurrent(&desktop_);
+    desktop_.onMessage = [this](const screen::MessageBox& box) {
+      messages_.push_back(box.text);
+      return desktop::QtDesktop::Reply<screen::Answer>{box.defaultAnswer()};
+    };
+    desktop_.onClosed = [this](const screen::Form& form) { closed_.push_back(form.name()); };
+    window_.show();
+  }
+  ~DesktopWindowTest() override { screen::Desktop::makeCurrent(nullptr); }
+
+  std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  QPushButton& entry() { return *window_.findChild<EntryButton*>(); }
+  std::string cardText() const {
+    std::string text;
+    for (const QLabel* label : window_.baseCard().findChildren<QLabel*>())
+      text += label->text().toStdString() + "|" + label->toolTip().toStdString() + "|";
+    return text;
+  }
+
+  TemporaryFolder folder_;
+  desktop::QtDesktop desktop_;
+  DesktopWindow window_{desktop_};
+  std::vector<std::string> messages_, closed_;
+};
+
+TEST_F(DesktopWindowTest, ABaseThatCannotBeOpenedLeavesAWayToAnotherOne) {
+  window_.openBase("sqlite:" + path("no-hay.db"));
+  EXPECT_THAT(cardText(), HasSubstr("no existe"));
+  EXPECT_FALSE(entry().isEnabled());
+  EXPECT_THAT(messages_, IsEmpty());
+
+  window_.makeSample(path("muestra.db"));
+  EXPECT_THAT(cardText(), HasSubstr(path("muestra.db")));
+  EXPECT_TRUE(entry().isEnabled());
+
+  // What fails from now on takes nothing away.
+  openFile(path("vacia.db"), OpenMode::Create);
+  window_.makeSample(path("muestra.db"));
+  window_.useFile(path("vacia.db"));
+  window_.useFile(path("no-hay.db"));
+  EXPECT_THAT(messages_,
+              ElementsAre("Ya existe el fichero «" + path("muestra.db") + "»; elija otro nombre.",
+                          "La base «" + path("vacia.db") + "» no tiene las tablas del programa.",
+                          HasSubstr("no existe")));
+  EXPECT_THAT(cardText(), HasSubstr(path("muestra.db")));
+  EXPECT_TRUE(entry().isEnabled());
+}
+
+TEST_F(DesktopWindowTest, WhatLeavesAScreenBecomesAMessageAndTheWindowStays) {
+  window_.makeSample(path("muestra.db"));
+  std::string shown;
+  desktop_.whileShown = [&](screen::Form& form) {
+    shown = form.name();
+    throw std::runtime_error("se ha perdido\nla conexión");
+  };
+  entry().click();
+  EXPECT_EQ(shown, "frmNewLiquidAgentes");
+  EXPECT_THAT(closed_, ElementsAre("frmNewLiquidAgentes"));
+  EXPECT_THAT(messages_, ElementsAre("Se ha perdido la conexión."));
+  EXPECT_TRUE(window_.isVisible());
+}
+
+TEST_F(DesktopWindowTest, ClosingItWhileAScreenIsOpenEndsTheProgramWithoutAsking) {
+  window_.makeSample(path("muestra.db"));
+  std::size_t openForms = 0;
+  QTimer::singleShot(0, [&] { entry().click(); });
+  QTimer::singleShot(50, [&] {
+    openForms = desktop_.forms().size();
+    window_.close();
+  });
+  QTimer::singleShot(5000, [] { QCoreApplication::exit(1); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_EQ(openForms, 1U);
+  EXPECT_THAT(closed_, ElementsAre("frmNewLiquidAgentes"));
+  EXPECT_THAT(messages_, IsEmpty());
+}
+
+TEST_F(DesktopWindowTest, TellsItsVersion) {
+  window_.tellAbout();
+  EXPECT_THAT(messages_, ElementsAre(HasSubstr("KORVANTES " KORVANTES_EXPECTED_VERSION)));
+}
+
+}  // namespace
+}  // namespace korvantes::host
+
+int main(int argc, char** argv) {
+  testing::InitGoogleMock(&argc, argv);
+  // Another platform can be asked for from outside.
+  ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  const korvantes::desktop::Application application("host_window_test");
+  return RUN_ALL_TESTS();
+}

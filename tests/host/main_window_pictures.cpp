@@ -1,0 +1,35 @@
+// Leaves pictures of the main window, with a database and without one, in a folder:
+//   korvantes_main_window_pictures FOLDER
+// They are for the eye: nothing compares them.
+#include <QApplication>
+#include <filesystem>
+#include <iostream>
+
+#include "desktop/application.h"
+#include "host/desktop_window.h"
+#include "host/temporary_folder.h"
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::cerr << "Uso: " << argv[0] << " CARPETA\n";
+    return 1;
+  }
+  namespace host = korvantes::host;
+  const std::filesystem::path folder = argv[1];
+  std::filesystem::create_directories(folder);
+  const korvantes::desktop::Application application;
+  korvantes::desktop::QtDesktop desktop;
+  const host::TemporaryFolder work;
+  host::DesktopWindow window(desktop);
+  window.show();
+  const auto take = [&](const char* name) {
+    QCoreApplication::processEvents();
+    window.grab().save(QString::fromStdString((folder / name).string()), "png");
+    std::cout << name << '\n';
+  };
+  window.openBase("sqlite:/srv/comisiones/no-hay/ventas.db");
+  take("escritorio-sin-base.png");
+  window.makeSample((work.path() / "muestra.db").string());
+  take("escritorio.png");
+  return 0;
+}
