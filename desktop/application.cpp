@@ -146,7 +146,6 @@ bool Application::visible() const {
 }
 
 int Application::run(QWidget& mainWindow) {
-  // Forms are modal: while one is open the main window takes no input, and it cannot be closed.
   QGuiApplication::setQuitOnLastWindowClosed(true);
   mainWindow.show();
   const int status = QApplication::exec();

@@ -35,7 +35,9 @@ FormWindow::FormWindow(screen::Form& form, WindowStack& stack, QWidget* parent)
       stack_(stack),
       scroll_(makeChild<QScrollArea>(this)),
       canvas_(makeChild<QWidget>()) {
-  setWindowModality(Qt::ApplicationModal);
+  // The main window sees to itself, so that it can be closed while a form is open.
+  const bool onMainWindow = parent != nullptr && parent == stack.mainWindow();
+  setWindowModality(onMainWindow ? Qt::NonModal : Qt::ApplicationModal);
   setFocusPolicy(Qt::NoFocus);
   setWindowIcon(iconNamed("liquidacion"));
   scroll_.setFocusPolicy(Qt::NoFocus);

@@ -46,7 +46,8 @@ class QtDesktop : public screen::Desktop {
   /// Fixed clock; the machine's when empty.
   std::optional<ado::Moment> clock;
 
-  /// Window that forms and dialogs belong to while no form is open; nullptr for none.
+  /// Window that forms and dialogs belong to while no form is open; nullptr for none. The first
+  /// form leaves it free, so that it can be closed: while it shows a form it takes no other input.
   void mainWindow(QWidget* window);
   /// The open forms, topmost last.
   const std::vector<screen::Form*>& forms() const { return forms_; }

@@ -38,6 +38,7 @@ class WindowStack : public QObject {
   QWidget* owner() const;
   /// Where the first form belongs to.
   void mainWindow(QWidget* window) { mainWindow_ = window; }
+  QWidget* mainWindow() const { return mainWindow_; }
   /// Counts windows opened and closed.
   std::size_t changes() const { return changes_; }
 

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QResizeEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/icons.h"
 #include "desktop/look.h"
@@ -67,11 +68,13 @@ void BaseCard::fitWords() {
   if (problem_) {
     words_.setText(whole_);
     words_.setToolTip({});
+    words_.setMinimumHeight(std::max(0, words_.heightForWidth(words_.width())));
     return;
   }
   const QString shown =
       words_.fontMetrics().elidedText(whole_, Qt::ElideMiddle, words_.contentsRect().width());
   words_.setText(shown);
+  words_.setMinimumHeight(0);
   words_.setToolTip(shown == whole_ ? QString() : whole_);
 }
 

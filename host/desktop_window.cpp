@@ -26,6 +26,7 @@ constexpr const char* kTitle = "KORVANTES";
 constexpr const char* kSubject = "Comisiones de agentes";
 constexpr int kMargin = 20;
 constexpr int kWidth = 560;
+constexpr int kButtonMargin = 16;
 
 /// A sentence begins with a capital letter and ends with a full stop; failures are told in neither.
 std::string asSentence(std::string_view words) {
@@ -99,7 +100,7 @@ void DesktopWindow::addEntries(QVBoxLayout& layout) {
 void DesktopWindow::addBase(QVBoxLayout& layout) {
   auto& base = makeChild<QVBoxLayout>();
   base.setContentsMargins(kMargin, 0, kMargin, 0);
-  base.setSpacing(10);
+  base.setSpacing(12);
   base.addWidget(&card_);
   auto& row = makeChild<QHBoxLayout>();
   row.addStretch(1);
@@ -107,8 +108,10 @@ void DesktopWindow::addBase(QVBoxLayout& layout) {
   auto& sample = makeChild<QPushButton>("Nueva base de &muestra…", this);
   connect(&choose, &QPushButton::clicked, this, [this] { askForBase(); });
   connect(&sample, &QPushButton::clicked, this, [this] { askForSample(); });
-  row.addWidget(&choose);
-  row.addWidget(&sample);
+  for (QPushButton* button : {&choose, &sample}) {
+    button->setMinimumWidth(button->sizeHint().width() + kButtonMargin);
+    row.addWidget(button);
+  }
   base.addLayout(&row);
   layout.addLayout(&base);
 }
@@ -143,7 +146,10 @@ void DesktopWindow::openBase(const std::optional<std::string>& url) {
 }
 
 void DesktopWindow::openScreen(const DesktopEntry& entry) {
+  takesInput(false);
   attempt([&] { base_.screens().at(entry.screen)(std::nullopt); });
+  takesInput(true);
+  refresh();
 }
 
 void DesktopWindow::useFile(const std::string& path) {
@@ -178,6 +184,12 @@ void DesktopWindow::attempt(const std::function<void()>& work) {
   refresh();
 }
 
+/// While a screen is open this window can be closed, but does nothing else.
+void DesktopWindow::takesInput(bool takes) {
+  centralWidget()->setEnabled(takes);
+  menuBar()->setEnabled(takes);
+}
+
 void DesktopWindow::refresh() {
   const bool open = base_.isOpen();
   if (open)
@@ -187,6 +199,14 @@ void DesktopWindow::refresh() {
   for (EntryButton* button : buttons_) button->setEnabled(open);
   for (QAction* action : entryActions_) action->setEnabled(open);
   if (open && focusWidget() == nullptr) buttons_.front()->setFocus();
+}
+
+/// Who activates it while a screen is open wants that screen.
+void DesktopWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+  for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+    if (child->isWindow() && child->isVisible()) child->activateWindow();
 }
 
 void DesktopWindow::closeEvent(QCloseEvent* event) {

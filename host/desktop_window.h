@@ -38,6 +38,7 @@ class DesktopWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void addHeader(QVBoxLayout& layout);
@@ -47,6 +48,7 @@ class DesktopWindow : public QMainWindow {
   void askForBase();
   void askForSample();
   void attempt(const std::function<void()>& work);
+  void takesInput(bool takes);
   void refresh();
 
   desktop::QtDesktop& desktop_;

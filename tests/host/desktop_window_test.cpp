@@ -87,6 +87,8 @@ TEST_F(DesktopWindowTest, ClosingItWhileAScreenIsOpenEndsTheProgramWithoutAsking
   QTimer::singleShot(0, [&] { entry().click(); });
   QTimer::singleShot(50, [&] {
     openForms = desktop_.forms().size();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "the frame button would do nothing";
+    EXPECT_FALSE(entry().isEnabled());
     window_.close();
   });
   QTimer::singleShot(5000, [] { QCoreApplication::exit(1); });

@@ -1,0 +1,72 @@
+#include <QCoreApplication>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <memory>
+#include <stdexcept>
+
+#include "bench/pending_database.h"
+#include "component/KORVAN.h"
+#include "host/headless_stage.h"
+#include "host/window_stage.h"
+
+namespace korvantes::bench {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+screen::Control& control(screen::Form& form, const char* identity) {
+  screen::Control* found = form.findControl(identity);
+  if (found == nullptr) throw std::logic_error(identity);
+  return *found;
+}
+
+/// Seconds from the click on the search button until the list is filled and, where there are
+/// windows, painted.
+double searchSeconds(host::ScriptStage& stage, KORVAN& component, std::size_t notes) {
+  double seconds = 0;
+  host::ScriptStage::Cues cues;
+  cues.whileShown = [&](screen::Form& form) {
+    stage.moveFocus(control(form, "Text1(0)"));
+    stage.type("1");
+    stage.moveFocus(control(form, "Check1"));
+    const Clock::time_point start = Clock::now();
+    stage.click(control(form, "cmbBuscarFacturas"));
+    stage.settle();
+    if (stage.draws()) QCoreApplication::processEvents();
+    seconds = std::chrono::duration<double>(Clock::now() - start).count();
+    if (static_cast<screen::ListView&>(control(form, "ListView1")).Count() != notes)
+      throw std::logic_error("unexpected number of rows");
+    form.Unload();
+  };
+  stage.follow(cues);
+  component.jShowNewLiqui();
+  stage.follow({});
+  return seconds;
+}
+
+template <class Stage>
+void List(benchmark::State& state) {
+  const PendingDatabase& database = pendingDatabase(static_cast<std::size_t>(state.range(0)));
+  const auto component = KORVAN::Create();
+  component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection()));
+  Stage stage;
+  screen::Desktop::makeCurrent(&stage.desktop());
+  stage.clock({{2026, 6, 30}, 0});
+  for ([[maybe_unused]] auto _ : state)
+    state.SetIterationTime(searchSeconds(stage, *component, database.notes()));
+  screen::Desktop::makeCurrent(nullptr);
+}
+
+void sizes(benchmark::internal::Benchmark* bench) {
+  bench->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK_TEMPLATE(List, host::HeadlessStage)->Apply(sizes);
+BENCHMARK_TEMPLATE(List, host::WindowStage)->Apply(sizes);
+
+}  // namespace
+
+}  // namespace korvantes::bench
+
+BENCHMARK_MAIN();
