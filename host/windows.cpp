@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "host/desktop_window.h"
+#include "host/display.h"
 #include "host/failure.h"
 #include "host/version.h"
 #include "host/window_stage.h"
@@ -14,10 +15,11 @@ bool hasWindows() {
 }
 
 bool displayAvailable() {
-  return desktop::Application::displayAvailable();
+  return displayAnswers();
 }
 
 std::unique_ptr<ScriptStage> makeWindowStage() {
+  if (!displayAvailable()) ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
   return std::make_unique<WindowStage>();
 }
 

@@ -195,6 +195,11 @@ TEST_F(HostTest, PlaysTheSampleSettlementAgainAndAgainOnABaseOfItsOwn) {
   EXPECT_NE(first.out.find("concluido satisfactoriamente"), std::string::npos);
   EXPECT_EQ(run({"--salida", path("out")}).out, first.out);
   EXPECT_FALSE(fs::exists(path("datos")));
+  // A display that does not answer is none.
+  ::setenv("DISPLAY", ":4711", 1);
+  ::unsetenv("QT_QPA_PLATFORM");
+  expectFailure({"--escritorio"}, "--escritorio: ");
+  EXPECT_EQ(run({"--salida", path("out")}).out, first.out);
 }
 
 TEST_F(HostTest, TellsWhenItsOutputIsLost) {
