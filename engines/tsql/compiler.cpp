@@ -1,6 +1,7 @@
 #include "engines/tsql/compiler.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <unordered_map>
 
 #include "engines/tsql/binder.h"
@@ -184,7 +185,9 @@ struct Compiler::Impl {
     }
     ++misses;
     Entry entry = compile(text);
-    entry.fill(fingerprint.literals, text, result.parameters);
+    // A parameter left out would be a Null in silence.
+    if (!entry.fill(fingerprint.literals, text, result.parameters))
+      throw std::logic_error("a statement has no room for its own literals");
     entry.structural = structuralOf(fingerprint.literals, entry.parameters);
     result.statement = entry.statement;
     const bool keeps = entry.statement->kind != StatementKind::CreateTable &&

@@ -1,8 +1,5 @@
 #include "tests/settlement/settlement_world.h"
 
-#include <cstdlib>
-#include <stdexcept>
-
 #include "data/schema.h"
 #include "engines/sqlite/sqlite_connection.h"
 #include "engines/tsql/compiler.h"
@@ -105,24 +102,6 @@ std::vector<std::string> Screen::contents() const {
   for (std::size_t row = 0; row < list().Count(); ++row)
     result.push_back((list().item(row).Checked ? "x " : "- ") + list().item(row).Tag);
   return result;
-}
-
-TemporaryFolder::TemporaryFolder() {
-  // In memory where the system offers it: every save waits for the disk.
-  const std::filesystem::path memory = "/dev/shm";
-  std::error_code none;
-  std::string name =
-      ((std::filesystem::is_directory(memory, none) ? memory
-                                                    : std::filesystem::temp_directory_path()) /
-       "korvantes-XXXXXX")
-          .string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
 }
 
 World::World()

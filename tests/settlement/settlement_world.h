@@ -1,7 +1,6 @@
 // A settlement screen on a small real database, with a test as its user.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <list>
 #include <memory>
@@ -13,6 +12,7 @@
 #include "outside/screen/headless_desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
 #include "tests/support/faulty_connection.h"
+#include "tests/support/temporary_folder.h"
 
 namespace korvantes::settlement {
 
@@ -37,19 +37,6 @@ struct Screen {
   std::size_t rowOf(int note) const;
   /// What the fields and the list show, for comparison before and after.
   std::vector<std::string> contents() const;
-};
-
-/// A folder of its own for one database file.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  std::string file(const char* name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
 };
 
 /// The connection under test, which can also refuse to roll back.
@@ -87,7 +74,7 @@ class World {
   std::vector<std::string> messages;
 
  private:
-  TemporaryFolder folder_;
+  support::TemporaryFolder folder_;
   std::shared_ptr<ado::Connection> real_;
   std::shared_ptr<KORVAN> component_;
   screen::Desktop* former_;

@@ -1,6 +1,5 @@
 #include "tests/sqlite/engine_fixture.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -14,7 +13,7 @@ namespace {
 class SqliteDatabase : public TestDatabase {
  public:
   std::unique_ptr<ado::Connection> connect() override {
-    return std::make_unique<sqlite::SqliteConnection>(folder_.at("empresa.db"),
+    return std::make_unique<sqlite::SqliteConnection>(folder_.file("empresa.db"),
                                                       sqlite::OpenOptions{true, 20});
   }
 
@@ -23,17 +22,6 @@ class SqliteDatabase : public TestDatabase {
 };
 
 }  // namespace
-
-TemporaryFolder::TemporaryFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "korvantes.XXXXXX").string();
-  if (!::mkdtemp(name.data())) throw std::runtime_error("mkdtemp: " + name);
-  path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
 
 std::vector<Engine> engines() {
   return {{"SQLite",

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <ostream>
@@ -9,21 +8,11 @@
 #include <vector>
 
 #include "outside/ado/connection.h"
+#include "tests/support/temporary_folder.h"
 
 namespace korvantes::testing_engines {
 
-/// A folder of its own for each test, gone after it.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  std::string at(const std::string& name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
-};
+using support::TemporaryFolder;
 
 /// A database that one engine makes for one test; it can be connected to several times.
 class TestDatabase {

@@ -27,7 +27,7 @@ class SqliteFileTest : public testing::Test {
     }
   }
   TemporaryFolder folder_;
-  std::string path_ = folder_.at("empresa.db");
+  std::string path_ = folder_.file("empresa.db");
 };
 
 TEST_F(SqliteFileTest, BothFilesAreTheirOwnersAlone) {
@@ -38,7 +38,7 @@ TEST_F(SqliteFileTest, BothFilesAreTheirOwnersAlone) {
   connection.Execute("insert into Vespara.dbo.PAIS values (724, 'España')");
   for (const char* name : {"empresa.db", "empresa.db.vespara", "empresa.db-wal"}) {
     struct stat state {};
-    ASSERT_EQ(::stat(folder_.at(name).c_str(), &state), 0) << name;
+    ASSERT_EQ(::stat(folder_.file(name).c_str(), &state), 0) << name;
     EXPECT_EQ(state.st_mode & 0777U, 0600U) << name;
   }
 }
@@ -58,8 +58,8 @@ TEST_F(SqliteFileTest, AFileBringsItsTypesWhenItIsOpenedAgain) {
 TEST_F(SqliteFileTest, WhatIsMissingIsNotMadeUnlessAsked) {
   refuse(path_);
   EXPECT_FALSE(fs::exists(path_));
-  refuse(folder_.at("no/hay/empresa.db"), kCreate);
-  refuse(folder_.at(""), kCreate);
+  refuse(folder_.file("no/hay/empresa.db"), kCreate);
+  refuse(folder_.file(""), kCreate);
 }
 
 TEST_F(SqliteFileTest, WithoutItsPartnerTheCompanysTablesStillWork) {
@@ -76,19 +76,19 @@ TEST_F(SqliteFileTest, WithoutItsPartnerTheCompanysTablesStillWork) {
 }
 
 TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
-  std::ofstream(folder_.at("ajeno")).flush();
+  std::ofstream(folder_.file("ajeno")).flush();
   fs::create_symlink("ajeno", path_);
   refuse(path_, kCreate);
   refuse(path_);
   fs::remove(path_);
   fs::create_symlink("ajeno", path_ + ".vespara");
   refuse(path_, kCreate);
-  EXPECT_EQ(fs::file_size(folder_.at("ajeno")), 0U);
+  EXPECT_EQ(fs::file_size(folder_.file("ajeno")), 0U);
   // A link on the way there is the user's own way of arranging folders.
-  fs::create_directory(folder_.at("datos"));
-  fs::create_directory_symlink("datos", folder_.at("enlace"));
-  SqliteConnection(folder_.at("enlace/empresa.db"), kCreate);
-  EXPECT_TRUE(fs::exists(folder_.at("datos/empresa.db")));
+  fs::create_directory(folder_.file("datos"));
+  fs::create_directory_symlink("datos", folder_.file("enlace"));
+  SqliteConnection(folder_.file("enlace/empresa.db"), kCreate);
+  EXPECT_TRUE(fs::exists(folder_.file("datos/empresa.db")));
 }
 
 TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanishWithSqlitesWords) {
@@ -131,10 +131,10 @@ TEST_F(SqliteFileTest, WhatIsNoDatabaseIsLeftAsItIs) {
   std::ofstream(path_) << std::string(5000, 'x');
   refuse(path_);
   EXPECT_EQ(fs::file_size(path_), 5000U);
-  ASSERT_EQ(::mkfifo(folder_.at("tubo").c_str(), 0600), 0);
-  refuse(folder_.at("tubo"));
-  fs::create_directory(folder_.at("carpeta"));
-  refuse(folder_.at("carpeta"), kCreate);
+  ASSERT_EQ(::mkfifo(folder_.file("tubo").c_str(), 0600), 0);
+  refuse(folder_.file("tubo"));
+  fs::create_directory(folder_.file("carpeta"));
+  refuse(folder_.file("carpeta"), kCreate);
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ class FullDiskTest : public testing::Test {
   static constexpr rlim_t kLimit = 1'000'000;
 
   TemporaryFolder folder_;
-  sqlite::SqliteConnection connection_{folder_.at("empresa.db"), {true, 20}};
+  sqlite::SqliteConnection connection_{folder_.file("empresa.db"), {true, 20}};
 };
 
 TEST_F(FullDiskTest, ACommitThatFailsLeavesTheOldStateAndCanBeRolledBack) {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "engines/sqlite/sqlite_connection.h"
+#include "tests/support/temporary_folder.h"
 
 namespace korvantes::support {
 
@@ -12,15 +12,12 @@ namespace korvantes::support {
 class TemporaryDatabase {
  public:
   TemporaryDatabase();
-  ~TemporaryDatabase();
-  TemporaryDatabase(const TemporaryDatabase&) = delete;
-  TemporaryDatabase& operator=(const TemporaryDatabase&) = delete;
 
-  std::string path() const { return (folder_ / "prueba.db").string(); }
+  std::string path() const { return folder_.file("prueba.db"); }
   const std::shared_ptr<sqlite::SqliteConnection>& connection() const { return connection_; }
 
  private:
-  std::filesystem::path folder_;
+  TemporaryFolder folder_;
   std::shared_ptr<sqlite::SqliteConnection> connection_;
 };
 

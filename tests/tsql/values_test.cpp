@@ -1,8 +1,8 @@
-#include <filesystem>
 #include <gtest/gtest.h>
 
 #include "engines/sqlite/sqlite_connection.h"
 #include "outside/ado/error.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tsql/cases.h"
 
 namespace korvantes::tsql {
@@ -40,7 +40,6 @@ class Values : public testing::Test {
         "INSERT INTO V VALUES (7, NULL, 2147483647, 5, 10.05, 0.0049, 922337203685477.5807, 12.5, "
         "7.5, 'Ñandú ', 'ab', '12.5', '28/02/2026')");
   }
-  ~Values() override { std::filesystem::remove_all(folder_); }
 
   std::string evaluate(const std::string& expression) {
     const std::string statement = "SELECT " + expression + " FROM V";
@@ -53,17 +52,11 @@ class Values : public testing::Test {
     }
   }
 
-  static std::filesystem::path makeFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "kv-tsql-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    return name;
-  }
-
   static constexpr const char* kTable =
       "CREATE TABLE V (i int, n int, k int, b bit, m money, r money, big money, d decimal(5,2), "
       "e decimal(6,3), t varchar(20), c char(5), z varchar(10), f date)";
-  std::filesystem::path folder_ = makeFolder();
-  sqlite::SqliteConnection connection_{(folder_ / "base").string(), {.create = true}};
+  support::TemporaryFolder folder_;
+  sqlite::SqliteConnection connection_{folder_.file("base"), {.create = true}};
   std::shared_ptr<Catalogue> catalogue_ = std::make_shared<Catalogue>();
   Compiler compiler_{Compiler::Engine::SQLite, catalogue_};
 };
