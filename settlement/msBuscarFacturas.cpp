@@ -69,6 +69,9 @@ void frmNewLiquidAgentes::msBuscarFacturas() {
 
   ListView1.Clear();
   screen::DoEvents();
+  if (!loaded()) return;
+  // Another search may have come in with those events; its rows must not stand there twice.
+  ListView1.Clear();
 
   rsAlb = ado::Recordset();
 

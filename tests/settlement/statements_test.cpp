@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "data/commission_rule.h"
@@ -53,6 +54,22 @@ TEST(SettlementStatements, TheSearchSendsOneStatementWithTheChosenConditions) {
       EXPECT_EQ(world.connection->calls().at(1), kPending + each.condition + kNewestFirst);
     });
   }
+}
+
+TEST(SettlementStatements, ASearchThatComesInBetweenListsNoNoteTwice) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.search("5", false, false);
+    const auto listed = screen.contents();
+    screen.click("cmdCancelar");
+    screen.go("cmbBuscarFacturas");
+    // A second Enter on the button, while the first search lets pending events run.
+    world.desktop.sendKeys("\r");
+    world.connection->forgetCalls();
+    world.desktop.user().click(screen.control("cmbBuscarFacturas"));
+    EXPECT_EQ(std::ranges::count(world.connection->calls(), kPending + kNewestFirst), 2);
+    EXPECT_EQ(screen.contents().size(), listed.size());
+  });
 }
 
 TEST(SettlementStatements, ListingAsksForTheAgentTheNotesEachCommissionAndTheRates) {
