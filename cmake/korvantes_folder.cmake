@@ -12,11 +12,6 @@ target_compile_options(
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(korvantes_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
 endif()
-# g++ 12 sees overlapping copies in optimised assignments to std::string that are none (its bug
-# 105329).
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(korvantes_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
-endif()
 if(KORVANTES_SANITIZE)
   target_compile_options(korvantes_options INTERFACE -fsanitize=address,undefined
                                                      -fno-sanitize-recover=all

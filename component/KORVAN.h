@@ -30,7 +30,10 @@ class KORVAN : public std::enable_shared_from_this<KORVAN> {
 
   /// Open a screen modally: the agent master, the settlement entry on an empty settlement, the
   /// settlement report. Return when the user has closed it. Each call makes a fresh form.
+  /// @param nAgente has no effect: the agent master always opens on the whole list
+  void jShow(const std::int32_t& nAgente = 0);
   void jShowNewLiqui();
+  void jShowInfLiqui();
 
   /// Commission of a document in currency units.
   /// @param nOrigen 2 order, 3 delivery note; anything else is an error

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "component/KORVAN.h"
+#include "outside/screen/controls.h"
 
 namespace korvantes::mdoKORVANTES {
 
@@ -19,5 +22,18 @@ const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente);
 
 /// The connection of the service of oComponente.
 ado::Connection& Conexion();
+
+/// A tax number with its check letter, as the agent master completes it: a text that begins with a
+/// digit gets the letter of its digits, behind them or in place of the letter typed; one that
+/// begins with a letter stays as it is; one of fewer than two characters becomes empty.
+std::string msCompletaNif(const std::string& sNif);
+
+/// Stores the picture that the control shows as that of the agent. A failure is told in a message
+/// box and leaves the stored picture as it was; nothing is thrown.
+void msGuardaImagen(const std::int32_t& nId, const screen::Image& imagen);
+
+/// Shows the stored picture of the agent in the control, or nothing where there is none. A failure
+/// is told in a message box and leaves the control empty; nothing is thrown.
+void msCargaImagen(const std::int32_t& nId, screen::Image& imagen);
 
 }  // namespace korvantes::mdoKORVANTES

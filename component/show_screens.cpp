@@ -1,6 +1,8 @@
 // What shows the screens: it stands above them, so that no screen and no class includes the other
 // way round.
+#include "agents/frmAgentes.h"
 #include "component/KORVAN.h"
+#include "report/frmLiquidAgentes.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {
@@ -21,8 +23,16 @@ void muestra() {
 
 }  // namespace
 
+void KORVAN::jShow(const std::int32_t&) {
+  muestra<frmAgentes>();
+}
+
 void KORVAN::jShowNewLiqui() {
   muestra<frmNewLiquidAgentes>();
+}
+
+void KORVAN::jShowInfLiqui() {
+  muestra<frmLiquidAgentes>();
 }
 
 }  // namespace korvantes

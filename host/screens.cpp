@@ -18,8 +18,12 @@ void openSettlement(KORVAN& component, std::optional<std::int32_t> number) {
   form->Show();
 }
 
-void openMissing(std::optional<std::int32_t>) {
-  throw Failure("la pantalla todavía no existe");
+/// For the screens that take no number.
+Screens::mapped_type without(std::string_view screen, std::function<void()> open) {
+  return [screen, open = std::move(open)](std::optional<std::int32_t> number) {
+    if (number) throw Failure("abrir " + std::string(screen) + ": no se espera un número");
+    open();
+  };
 }
 
 }  // namespace
@@ -28,8 +32,8 @@ Screens screensOf(KORVAN& component) {
   return {
       {"liquidacion",
        [&component](std::optional<std::int32_t> number) { openSettlement(component, number); }},
-      {"informe", openMissing},
-      {"agentes", openMissing},
+      {"informe", without("informe", [&component] { component.jShowInfLiqui(); })},
+      {"agentes", without("agentes", [&component] { component.jShow(); })},
   };
 }
 

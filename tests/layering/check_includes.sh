@@ -105,6 +105,7 @@ self_test() {
     'OK engines/sqlite/sqlite_connection.cpp <sqlite3.h>'
     'OK engines/sqlite/functions.cpp "engines/tsql/compiler.h"'
     'OK desktop/window.cpp <QWidget>'
+    'OK office/sheet/writer.cpp <xlsxwriter.h>'
     'OK host/main.cpp "engines/sqlite/sqlite_connection.cpp"'
     'BAD outside/screen/control.cpp "data/schema.h"'
     'BAD outside/plindor/service.cpp <sqlite3.h>'

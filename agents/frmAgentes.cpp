@@ -1,0 +1,7 @@
+#include "agents/frmAgentes.h"
+
+namespace korvantes {
+
+frmAgentes::frmAgentes() : Form("frmAgentes") {}
+
+}  // namespace korvantes

@@ -1,0 +1,52 @@
+// office: the outside objects that print reports and write spreadsheets. They know outside/ alone;
+// where a finished document goes is up to whoever registers them, through the outlets below.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+class QPagedPaintDevice;
+
+namespace korvantes::office {
+
+/// Where spreadsheets go.
+class SheetOutlet {
+ public:
+  virtual ~SheetOutlet() = default;
+  /// The file to write, which replaces one that is there. Nothing when the user thinks better of
+  /// it: then nothing is written and nothing said.
+  /// @param suggestedName a file name with its extension, without a folder
+  virtual std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) = 0;
+  /// The file stands complete under its name.
+  /// @param rows rows of data, without title, heading and totals
+  virtual void written(const std::filesystem::path& file, std::size_t rows) = 0;
+};
+
+/// A report with all its data, laid out anew for each device that it meets. It asks no database any
+/// more, so that it can be painted as often as a preview wants.
+class Report {
+ public:
+  virtual ~Report() = default;
+  virtual int number() const = 0;  ///< 11 one settlement, 12 a list of settlements
+  virtual std::size_t rows() const = 0;
+  /// "Liquidación 13": for a window and the document's own title.
+  virtual std::string title() const = 0;
+  /// A file name without folder and extension.
+  virtual std::string suggestedName() const = 0;
+  /// Sets A4 and the margins on the device. A device keeps them only when told before painting.
+  virtual void setUp(QPagedPaintDevice& device) const = 0;
+  /// Paints all pages, from the first to the last, on a device that was set up.
+  virtual void paint(QPagedPaintDevice& device) const = 0;
+};
+
+/// Where reports go. Returns when the user has done with the report.
+class ReportOutlet {
+ public:
+  virtual ~ReportOutlet() = default;
+  virtual void deliver(std::shared_ptr<const Report> report) = 0;
+};
+
+}  // namespace korvantes::office

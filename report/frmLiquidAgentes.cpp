@@ -1,0 +1,7 @@
+#include "report/frmLiquidAgentes.h"
+
+namespace korvantes {
+
+frmLiquidAgentes::frmLiquidAgentes() : Form("frmLiquidAgentes") {}
+
+}  // namespace korvantes
