@@ -3,6 +3,9 @@
 # script's first line is "# opciones: …" with other options of the host. With DESKTOP set to
 # --escritorio it is played on real windows, whose toolkit must have nothing to say.
 #
+# The program runs in WORK and leaves its documents in the folder out there: the transcript names them
+# out/NAME on every machine.
+#
 # Whether pictures were taken depends on the desktop: those lines are left out.
 #
 # With KORVANTES_UPDATE_SCRIPTS set in the environment, EXPECTED is written instead: read the
@@ -11,7 +14,7 @@ file(REMOVE_RECURSE ${WORK})
 file(COPY ${BASE} ${BASE}.vespara DESTINATION ${WORK})
 get_filename_component(base_name ${BASE} NAME)
 
-set(options --regional es-ES --hoy 24/11/2026)
+set(options --regional es-ES --hoy 24/11/2026 --salida out)
 file(STRINGS ${SCRIPT} first_line LIMIT_COUNT 1 ENCODING UTF-8)
 if(first_line MATCHES "^# opciones: (.*)$")
   separate_arguments(more UNIX_COMMAND "${CMAKE_MATCH_1}")
@@ -20,9 +23,9 @@ endif()
 
 set(transcript ${WORK}/transcript)
 execute_process(
-  COMMAND ${HOST} --base sqlite:${WORK}/${base_name} ${options} --salida ${WORK}/out
-          ${DESKTOP} guion ${SCRIPT}
+  COMMAND ${HOST} --base sqlite:${WORK}/${base_name} ${options} ${DESKTOP} guion ${SCRIPT}
   COMMAND grep -v "^.captura."
+  WORKING_DIRECTORY ${WORK}
   OUTPUT_FILE ${transcript}
   ERROR_VARIABLE errors
   RESULTS_VARIABLE statuses)
