@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "office/outlets.h"
+#include "office/output_folder.h"
+
+namespace korvantes::office {
+
+class OffscreenApplication;
+
+/// Writes each report as a PDF file into a folder, for hosts without a display.
+class FolderReportOutlet : public ReportOutlet {
+ public:
+  /// What is told of a file that stands complete: report number, rows, path.
+  using Written = std::function<void(int number, std::size_t rows, const std::filesystem::path&)>;
+
+  FolderReportOutlet(std::shared_ptr<OutputFolder> folder, Written written);
+  ~FolderReportOutlet() override;
+
+  /// Throws ado::Error when the file cannot be written; nothing is told then. Where there is no
+  /// application object of Qt yet, the outlet makes one with the first report, and keeps it as long
+  /// as it lives itself.
+  void deliver(std::shared_ptr<const Report> report) override;
+
+ private:
+  std::shared_ptr<OutputFolder> folder_;
+  Written written_;
+  std::unique_ptr<OffscreenApplication> application_;
+};
+
+}  // namespace korvantes::office

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+
+#include "office/outlets.h"
+
+namespace korvantes::office {
+
+/// Writes the report as a PDF file. A file that is there is replaced once the new one stands
+/// complete on the disk; on any failure it stays as it was, and nothing half-written is left.
+/// Needs an application object of Qt. Throws ado::Error with a Spanish sentence.
+void writePdf(const Report& report, const std::filesystem::path& file);
+
+}  // namespace korvantes::office
