@@ -1,5 +1,90 @@
-#include "component/mdoKORVANTES.h"
-#include "outside/plindor/util_formulario.h"
-#include "outside/screen/conversions.h"
+// The picture of an agent on its way between the control that shows it and its column. The
+// desktop reads and writes pictures as files only, so that both ways pass through one.
+#include <optional>
 
-namespace korvantes::mdoKORVANTES {}
+#include "component/mdoKORVANTES.h"
+#include "component/private_folder.h"
+#include "outside/ado/stream.h"
+#include "outside/screen/desktop.h"
+
+namespace korvantes::mdoKORVANTES {
+
+namespace {
+
+constexpr const char* kParaGuardar = "select * from AGE where AGE_ID= ";
+constexpr const char* kParaCargar = "select AGE_IMG from AGE where AGE_ID= ";
+constexpr const char* kSalto = "\r\n";
+constexpr const char* kFichero = "temp.bmp";
+constexpr long kSinRegistro = 3021;
+
+void muestra(const std::optional<screen::MessageBox>& aviso) {
+  if (aviso) screen::MsgBox(aviso->text, aviso->style, aviso->title);
+}
+
+screen::MessageBox avisoDe(const std::string& texto) {
+  return {texto, screen::style::Plain, std::string(screen::Desktop::kDefaultTitle)};
+}
+
+/// Stores the picture. Gives what the user must be told instead, if anything; the file is gone
+/// before the box stands on the screen.
+std::optional<screen::MessageBox> guarda(std::int32_t nId, const screen::Picture& imagen) {
+  auto& escritorio = screen::Desktop::current();
+  const PrivateFolder carpeta;
+  const std::string fichero = carpeta.file(kFichero);
+  escritorio.savePicture(imagen, fichero);
+  if (escritorio.loadPicture(fichero).empty()) {
+    return screen::MessageBox{"El fichero no es valido", screen::style::Plain, "VRAL"};
+  }
+
+  ado::Recordset rs = Conexion().OpenForUpdate(kParaGuardar + std::to_string(nId));
+  if (rs.isEOF() || rs.isBOF()) {
+    throw ado::Error(kSinRegistro, "No hay ningún agente con el código " + std::to_string(nId));
+  }
+  ado::Stream stream;
+  stream.LoadFromFile(fichero);
+  rs.Fields("AGE_IMG").Value(stream.Read());
+  rs.Update();
+  rs.Close();
+  return std::nullopt;
+}
+
+/// The stored picture of the agent; no picture where there is none.
+screen::Picture carga(std::int32_t nId) {
+  const ado::Recordset rs = Conexion().Execute(kParaCargar + std::to_string(nId));
+  if (rs.isEOF() || rs.isBOF() || rs.Fields(0).Value().isNull()) return {};
+  const ado::Bytes& bytes = rs.Fields("AGE_IMG").Value().bytes();
+  // A column emptied by another program holds a text of no bytes instead of Null.
+  if (bytes.empty()) return {};
+
+  const PrivateFolder carpeta;
+  const std::string fichero = carpeta.file(kFichero);
+  ado::Stream stream;
+  stream.Write(bytes);
+  stream.SaveToFile(fichero);
+  return screen::Desktop::current().loadPicture(fichero);
+}
+
+}  // namespace
+
+void msGuardaImagen(const std::int32_t& nId, const screen::Image& imagen) {
+  std::optional<screen::MessageBox> aviso;
+  try {
+    aviso = guarda(nId, imagen.Picture());
+  } catch (const std::exception& error) {
+    aviso = avisoDe(std::string("Error : ") + kSalto + error.what());
+  }
+  muestra(aviso);
+}
+
+void msCargaImagen(const std::int32_t& nId, screen::Image& imagen) {
+  std::optional<screen::MessageBox> aviso;
+  imagen.Picture = screen::Picture();
+  try {
+    imagen.Picture = carga(nId);
+  } catch (const std::exception& error) {
+    aviso = avisoDe(error.what());
+  }
+  muestra(aviso);
+}
+
+}  // namespace korvantes::mdoKORVANTES
