@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "outside/ado/decimal.h"
+#include "outside/ado/variant.h"
+
+namespace korvantes::office {
+
+/// An amount in cents, from an exact decimal, a whole number, or a double that stands for one;
+/// nothing for Null. Throws ado::ConversionError for other kinds.
+std::optional<ado::Decimal> inCents(const ado::Variant& value);
+
+/// Exact sum of amounts in cents.
+class Total {
+ public:
+  /// Null adds nothing. Throws ado::Error when the sum no longer fits.
+  void add(const std::optional<ado::Decimal>& amount);
+  ado::Decimal value() const { return {cents_, 2}; }
+
+ private:
+  std::int64_t cents_ = 0;
+};
+
+}  // namespace korvantes::office

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string>
+
+#include "outside/ado/decimal.h"
+#include "outside/ado/variant.h"
+#include "outside/screen/regional.h"
+
+namespace korvantes::office {
+
+/// Values as they stand in a report, under the regional settings of the desktop that gathered it.
+class ReportTexts {
+ public:
+  explicit ReportTexts(screen::Regional regional) : regional_(std::move(regional)) {}
+
+  /// "1.234,56"; empty for nothing.
+  QString amount(const std::optional<ado::Decimal>& amount) const;
+  /// "7,50"; empty for Null.
+  QString percent(const ado::Variant& percent) const;
+  /// "24/11/2026", or what stands in for Null.
+  QString date(const ado::Variant& date, const char* instead = "") const;
+  /// "A/123"; the number alone without a series, empty without a number.
+  QString document(const ado::Variant& series, const ado::Variant& number) const;
+  /// A text or a number, on one line.
+  QString text(const ado::Variant& value) const;
+
+ private:
+  screen::Regional regional_;
+};
+
+/// "1 factura", "2.000 facturas" without the separator of thousands: "2000 facturas".
+QString counted(std::size_t count, const char* one, const char* many);
+
+}  // namespace korvantes::office

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "office/print/canvas.h"
+
+namespace korvantes::office::list_layout {
+
+/// Millimetres. The widths of a table add up to kPageWidth.
+constexpr Column kInvoices[] = {
+    {"Factura", 30, Align::Left},   {"Fecha", 19, Align::Left},    {"Código", 15, Align::Right},
+    {"Cliente", 57, Align::Left},   {"Importe", 23, Align::Right}, {"% Com.", 13, Align::Right},
+    {"Comisión", 23, Align::Right},
+};
+/// Subtotals: each amount behind its name in small type.
+constexpr Column kSums[] = {{"", 41, Align::Left},       {"Base", 28, Align::Right},
+                            {"IVA", 26, Align::Right},   {"Retención", 33, Align::Right},
+                            {"Total", 29, Align::Right}, {"", 23, Align::Right}};
+
+constexpr double kTitle = 9, kLimits = 5.5, kCaptions = 5.5, kContinuation = 5.5;
+constexpr double kAgent = 7, kSettlement = 5.6, kRow = 4.7;
+constexpr double kSettlementTotal = 6.2, kAgentTotal = 7, kGrandTotal = 8;
+constexpr double kGap = 3, kAgentName = 125;
+
+}  // namespace korvantes::office::list_layout
