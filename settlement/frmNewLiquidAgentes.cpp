@@ -53,6 +53,9 @@ void frmNewLiquidAgentes::wire() {
   cmdSelTodo.Click = [this] { cmdSelTodo_Click(); };
   cmdCancelar.Click = [this] { cmdCancelar_Click(); };
   cmdGrabar.Click = [this] { cmdGrabar_Click(); };
+  cmdBorrar.Click = [this] { cmdBorrar_Click(); };
+  cmdImprime.Click = [this] { cmdImprime_Click(); };
+  cmdExcell.Click = [this] { cmdExcell_Click(); };
   cmdSalir.Click = [this] { cmdSalir_Click(); };
   ListView1.BeforeLabelEdit = [this](int& cancel) { ListView1_BeforeLabelEdit(cancel); };
   ListView1.ColumnClick = [this](int column) { ListView1_ColumnClick(column); };

@@ -47,6 +47,9 @@ class frmNewLiquidAgentes : public screen::Form {
   void cmdSelTodo_Click();
   void cmdCancelar_Click();
   void cmdGrabar_Click();
+  void cmdBorrar_Click();
+  void cmdImprime_Click();
+  void cmdExcell_Click();
   void cmdSalir_Click();
   void ListView1_BeforeLabelEdit(int& cancel);
   void ListView1_ColumnClick(int columnIndex);
@@ -81,6 +84,12 @@ class frmNewLiquidAgentes : public screen::Form {
   void insertaDetalle(plindor::BaseDatos& oDb, std::int32_t nNueva,
                       const screen::ListView::ListItem& fila);
   void imprimeLiquidacion(std::int32_t nNueva);
+  /// The three statements of a deletion, inside its transaction. Throws when one fails, or when
+  /// there was nothing left to delete.
+  void borraLiquidacion(plindor::BaseDatos& oDb);
+  /// Shows the report of a stored settlement and returns when it is closed. Throws what the report
+  /// object throws.
+  static void muestraInforme(std::int32_t nLiquidacion);
 
   std::unique_ptr<plindor::UtilFormulario> oUtil;
   std::int32_t nIdAgente = 0;  ///< found by the last agent lookup, 0 for none

@@ -2,10 +2,10 @@
 #include <stdexcept>
 
 #include "component/mdoKORVANTES.h"
-#include "outside/office/objects.h"
 #include "outside/screen/conversions.h"
 #include "outside/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
+#include "settlement/transaccion.h"
 
 namespace korvantes {
 
@@ -20,11 +20,6 @@ constexpr const char* kMarcaCav = "Update Cav set Cav_IdLca = ";
 constexpr const char* kWhereCav = "where cav_id = ";
 
 constexpr const char* kLiquidacionDe = "Select Lcd_IdLca from Lcd where Lcd_IdCav = ";
-
-constexpr const char* kInforme =
-    "select age_id,age_nom,age_nif,lca.* from lca inner join age on lca_idag=age_id ";
-constexpr const char* kWhereInforme = " Where lca_id = ";
-constexpr int kInformeLiquidacion = 11;
 
 constexpr const char* kSalto = "\r\n";
 
@@ -41,16 +36,6 @@ void aviso(screen::Form& form, const std::string& texto, int style = screen::sty
            std::string_view title = screen::Desktop::kDefaultTitle) {
   form.Tag = "e";
   screen::MsgBox(texto, style, title);
-}
-
-/// Undoes the transaction. Gives what the user must know when that fails too.
-std::string deshace(ado::Connection& conexion) {
-  try {
-    if (conexion.inTransaction()) conexion.RollbackTrans();
-    return "";
-  } catch (const std::exception& fallo) {
-    return std::string(kSalto) + "Tampoco se han podido deshacer los cambios: " + fallo.what();
-  }
 }
 
 /// Who has the delivery note of a row, where a settlement of another user has it.
@@ -76,25 +61,23 @@ void frmNewLiquidAgentes::msGrabarLiquidacion() {
 
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
   const std::int32_t nLiquiAnterior = nLiqui;
-  // A transaction that somebody else has open is not ours to undo.
-  const bool bAjena = oDb->Conexion().inTransaction();
+  Transaccion transaccion(oDb->Conexion());
   std::int32_t nNueva = 0;
   try {
-    oDb->Conexion().BeginTrans();
+    transaccion.empieza();
     if (nLiqui > 0) {
       borraLiquidacionAnterior(oDb->Conexion());
       nLiqui = 0;
     }
     if (hayMarcadas()) nNueva = escribeLiquidacion(*oDb);
-    oDb->Conexion().CommitTrans();
+    transaccion.confirma();
   } catch (const std::exception& fallo) {
     // What was stored stands as before, so the next save replaces the same settlement.
     nLiqui = nLiquiAnterior;
     std::string texto = fallo.what();
     if (!dynamic_cast<const FalloAlGrabar*>(&fallo))
       texto = std::string("Error grabando la liquidacion:") + kSalto + texto;
-    if (!bAjena) texto += deshace(oDb->Conexion());
-    aviso(*this, texto);
+    aviso(*this, texto + transaccion.deshace());
     return;
   }
   bCargada = false;
@@ -225,12 +208,8 @@ void frmNewLiquidAgentes::insertaDetalle(plindor::BaseDatos& oDb, std::int32_t n
 }
 
 void frmNewLiquidAgentes::imprimeLiquidacion(std::int32_t nNueva) {
-  const std::string sSql = std::string(kInforme) + kWhereInforme + std::to_string(nNueva);
   try {
-    const std::unique_ptr<office::Object> oPrint = office::CreateObject("marzenes.MZPrint");
-    oPrint->set("MyBd", mdoKORVANTES::MyBd());
-    oPrint->call("ShowReport",
-                 {ado::Variant(kInformeLiquidacion), ado::Variant(sSql), ado::Variant(0)});
+    muestraInforme(nNueva);
   } catch (const std::exception& fallo) {
     // It is stored: the screen is emptied as after a success, or it would be saved twice.
     aviso(*this,

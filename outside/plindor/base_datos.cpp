@@ -94,8 +94,9 @@ bool BaseDatos::InsertaFila(std::string& sError, std::optional<long> /*nReservad
 }
 
 bool BaseDatos::ejecuta(const std::string& sentencia, std::string& sError) {
+  filasAfectadas_ = 0;
   try {
-    conexion_->Execute(sentencia);
+    conexion_->Execute(sentencia, &filasAfectadas_);
     return true;
   } catch (const ado::Error& error) {
     sError = error.what();

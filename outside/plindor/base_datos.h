@@ -36,10 +36,13 @@ class BaseDatos {
   bool BorraFilas(std::string& sError);
   bool ActualizaFilas(std::string& sError);
   bool InsertaFila(std::string& sError, std::optional<long> nReservado = std::nullopt);
+  /// Rows that the last statement sent has changed; 0 when it failed.
+  long long FilasAfectadas() const { return filasAfectadas_; }
 
  private:
   bool ejecuta(const std::string& sentencia, std::string& sError);
   std::shared_ptr<ado::Connection> conexion_;
+  long long filasAfectadas_ = 0;
 };
 
 }  // namespace korvantes::plindor

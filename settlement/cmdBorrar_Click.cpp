@@ -1,0 +1,89 @@
+#include <stdexcept>
+
+#include "component/mdoKORVANTES.h"
+#include "outside/screen/desktop.h"
+#include "settlement/frmNewLiquidAgentes.h"
+#include "settlement/transaccion.h"
+
+namespace korvantes {
+
+namespace {
+
+constexpr const char* kDeCav = " WHERE Cav_IdLca = ";
+constexpr const char* kDeLcd = " WHERE Lcd_IdLca=";
+constexpr const char* kDeLca = " WHERE Lca_Id=";
+
+constexpr int kDecimales = 2;
+
+/// Raised when the database service answers False; its words are not shown.
+constexpr long kErrorPropio = 999;
+constexpr const char* kDescripcionErrorPropio = "Error definido por la aplicación o el objeto";
+
+void exige(bool hecho) {
+  if (!hecho) throw ado::Error(kErrorPropio, kDescripcionErrorPropio);
+}
+
+bool pregunta(const char* texto, int icono, const std::string& titulo) {
+  return screen::MsgBox(texto, icono | screen::style::YesNo | screen::style::DefaultSecond,
+                        titulo) == screen::Answer::Yes;
+}
+
+}  // namespace
+
+void frmNewLiquidAgentes::cmdBorrar_Click() {
+  if (nLiqui <= 0) return;
+  if (!pregunta("Desea eliminar la liquidación actual", screen::style::Exclamation, sTituloForm) ||
+      !pregunta("Confirma que desea eliminar la liquidación actual", screen::style::Critical,
+                sTituloForm))
+    return;
+
+  const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
+  Transaccion transaccion(oDb->Conexion());
+  std::optional<std::string> sFallo;
+  try {
+    transaccion.empieza();
+    borraLiquidacion(*oDb);
+    transaccion.confirma();
+  } catch (const std::exception& fallo) {
+    sFallo = fallo.what() + transaccion.deshace();
+  }
+
+  if (sFallo)
+    screen::MsgBox("Error eliminando liquidación: \r\n" + *sFallo, screen::style::Critical,
+                   sTituloForm);
+  else
+    screen::MsgBox("Liquidación eliminada ", screen::style::Information, sTituloForm);
+  Unload();
+}
+
+void frmNewLiquidAgentes::borraLiquidacion(plindor::BaseDatos& oDb) {
+  const std::string sLiqui = std::to_string(nLiqui);
+  long long nFilas = 0;
+  std::string sError;
+
+  oDb.Tabla = "Cav";
+  oDb.LimpiaSentencia(0);
+  oDb.Campos.AgregaCampo("Cav_IdLca", plindor::ListaCampos::Literal, "Null", kDecimales);
+  oDb.Condicion = kDeCav + sLiqui;
+  exige(oDb.ActualizaFilas(sError));
+  nFilas += oDb.FilasAfectadas();
+
+  oDb.Tabla = "Lcd";
+  oDb.LimpiaSentencia(0);
+  oDb.Condicion = kDeLcd + sLiqui;
+  exige(oDb.BorraFilas(sError));
+  nFilas += oDb.FilasAfectadas();
+
+  oDb.Tabla = "Lca";
+  oDb.LimpiaSentencia(0);
+  oDb.Condicion = kDeLca + sLiqui;
+  exige(oDb.BorraFilas(sError));
+  nFilas += oDb.FilasAfectadas();
+
+  // If another user has replaced it, its delivery notes are still settled, under another number.
+  if (nFilas == 0)
+    throw std::runtime_error("La liquidación " + sLiqui +
+                             " ya no existe: otro usuario la ha cambiado o eliminado.");
+}
+
+}  // namespace korvantes

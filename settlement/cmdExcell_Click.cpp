@@ -1,0 +1,28 @@
+#include "outside/office/objects.h"
+#include "settlement/frmNewLiquidAgentes.h"
+
+namespace korvantes {
+
+namespace {
+
+/// Keeps a form from taking input, until it goes.
+class Inhabilitado {
+ public:
+  explicit Inhabilitado(screen::Form& form) : form_(form) { form_.Enabled = false; }
+  ~Inhabilitado() { form_.Enabled = true; }
+  Inhabilitado(const Inhabilitado&) = delete;
+  Inhabilitado& operator=(const Inhabilitado&) = delete;
+
+ private:
+  screen::Form& form_;
+};
+
+}  // namespace
+
+void frmNewLiquidAgentes::cmdExcell_Click() {
+  const Inhabilitado sinOtrosClics(*this);
+  const std::unique_ptr<office::Object> oSheets = office::CreateObject("BELTRIS.BSHEETS");
+  oSheets->call("ListToExcel", {static_cast<screen::Control*>(&ListView1)});
+}
+
+}  // namespace korvantes
