@@ -1,0 +1,27 @@
+#pragma once
+
+#include "office/sheet/sheet_table.h"
+#include "outside/ado/recordset.h"
+#include "outside/screen/data_grid.h"
+
+namespace korvantes::office {
+
+/// The rows of a recordset under the visible columns of a grid, in the grid's formats. A grid with
+/// another number of columns than the recordset has fields is bound to something else: then the
+/// fields are the columns.
+class GridTable : public SheetTable {
+ public:
+  /// Throws ado::Error when the recordset is closed or no column is visible.
+  GridTable(const ado::Recordset& rows, const screen::DataGrid& grid);
+
+  std::size_t rows() const override { return rows_.RecordCount(); }
+  ado::Variant cell(std::size_t row, std::size_t column) const override {
+    return rows_.cell(row, fields_[column]);
+  }
+
+ private:
+  ado::Recordset rows_;              ///< a cursor of its own
+  std::vector<std::size_t> fields_;  ///< field of the recordset, for each column of the sheet
+};
+
+}  // namespace korvantes::office

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "outside/ado/error.h"
+
+namespace korvantes::office {
+
+/// "No se ha podido escribir FILE: words", for a failure of the system.
+ado::Error writeFailure(const std::filesystem::path& file, int errorNumber);
+ado::Error writeFailure(const std::filesystem::path& file, const std::string& words);
+
+/// A file that appears whole under its name or not at all. It is written in a folder of its own
+/// beside its place, which nobody else can look into and which is gone afterwards.
+class SheetFile {
+ public:
+  /// Throws ado::Error when the file could not be put there: no such folder, no permission, a file
+  /// in its place that is write-protected, locked by another program, or no file at all. A symbolic
+  /// link in its place is followed.
+  explicit SheetFile(const std::filesystem::path& place);
+  ~SheetFile();
+  SheetFile(const SheetFile&) = delete;
+  SheetFile& operator=(const SheetFile&) = delete;
+
+  /// For temporary files, on the same disk.
+  const std::filesystem::path& folder() const { return folder_; }
+  /// Where to write the contents.
+  std::filesystem::path draft() const;
+  /// Puts the draft in its place, once its bytes are on the disk; a file that it replaces hands on
+  /// its permissions. Throws ado::Error.
+  void commit();
+
+ private:
+  std::filesystem::path place_, folder_;
+};
+
+}  // namespace korvantes::office

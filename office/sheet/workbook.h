@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <locale.h>
+#include <string>
+#include <xlsxwriter.h>
+
+namespace korvantes::office {
+
+/// A point in numbers, in this thread, whatever language the program runs in: libxlsxwriter writes
+/// its numbers with printf, and a toolkit sets the user's language.
+class PointInNumbers {
+ public:
+  PointInNumbers();
+  ~PointInNumbers();
+  PointInNumbers(const PointInNumbers&) = delete;
+  PointInNumbers& operator=(const PointInNumbers&) = delete;
+
+ private:
+  locale_t plain_, before_;
+};
+
+/// A workbook being written, with one sheet, row after row in memory that does not grow.
+class Workbook {
+ public:
+  /// @param place the file's name in messages
+  Workbook(const std::filesystem::path& file, const std::filesystem::path& temporary,
+           std::filesystem::path place, const char* sheetName);
+  ~Workbook();
+  Workbook(const Workbook&) = delete;
+  Workbook& operator=(const Workbook&) = delete;
+
+  lxw_workbook* book() const { return book_; }
+  lxw_worksheet* sheet() const { return sheet_; }
+  lxw_format* newFormat() const;
+
+  /// Throws ado::Error when rows written before did not reach the disk.
+  void requireWritten() const;
+  /// Completes the file. Throws ado::Error also where the library did not notice that the disk had
+  /// no room.
+  void close();
+
+ private:
+  PointInNumbers pointInNumbers_;
+  std::string file_, temporary_;
+  std::filesystem::path place_;
+  lxw_workbook* book_ = nullptr;
+  lxw_worksheet* sheet_ = nullptr;
+};
+
+}  // namespace korvantes::office
