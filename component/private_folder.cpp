@@ -36,12 +36,13 @@ std::string madeIn(Place place) {
 
 PrivateFolder::PrivateFolder() {
   const Place places[] = {std::getenv("XDG_RUNTIME_DIR"), std::getenv("TMPDIR"), kLastPlace};
+  int reason = EACCES;
   for (const Place place : places) {
     if (place == nullptr || !isSafe(place)) continue;
     path_ = madeIn(place);
     if (!path_.empty()) return;
+    reason = errno;
   }
-  const int reason = errno;
   throw ado::Error(reason, std::string("No se puede crear una carpeta temporal en ") + kLastPlace +
                                ": " + ado::systemWords(reason));
 }

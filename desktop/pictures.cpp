@@ -2,23 +2,19 @@
 
 #include <QBuffer>
 #include <QByteArray>
-#include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QSaveFile>
+#include <QPainter>
 #include <array>
 #include <cstddef>
-#include <optional>
 
-#include "desktop/look.h"
 #include "outside/ado/error.h"
+#include "outside/ado/stream.h"
+#include "outside/screen/picture_file.h"
 
 namespace korvantes::desktop {
 
 namespace {
-
-constexpr qint64 kMostBytes = 64LL * 1024 * 1024;
-constexpr qint64 kMostPixels = 20'000'000;
 
 [[noreturn]] void fail(const std::string& words) {
   throw ado::Error(0, words);
@@ -31,21 +27,27 @@ bool knownFormat(const QByteArray& format) {
   return false;
 }
 
+/// The bytes without a copy, as long as they stay.
+QByteArray bytesOf(const ado::Bytes& bytes) {
+  return QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                 static_cast<qsizetype>(bytes.size()));
+}
+
 /// The first picture in the bytes; a null image, with the reason, where there is none.
-QImage decode(const QByteArray& bytes, std::string& reason) {
-  QBuffer buffer;
-  buffer.setData(bytes);
+QImage decode(const ado::Bytes& bytes, std::string& reason) {
+  QByteArray file = bytesOf(bytes);
+  QBuffer buffer(&file);
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer);
   // Camera pictures tell in their data which side is up.
   reader.setAutoTransform(true);
   if (!knownFormat(reader.format())) {
-    reason = "no es una imagen bmp, jpg, gif o tif";
+    reason = screen::kNoPicture;
     return {};
   }
   const QSize size = reader.size();
-  if (size.isValid() && qint64{size.width()} * size.height() > kMostPixels) {
-    reason = "tiene más de 20 millones de puntos";
+  if (screen::PictureSize{size.width(), size.height()}.tooLarge()) {
+    reason = screen::kTooManyPixels;
     return {};
   }
   QImage image = reader.read();
@@ -53,41 +55,44 @@ QImage decode(const QByteArray& bytes, std::string& reason) {
   return image;
 }
 
-QByteArray bytesOf(const ado::Bytes& bytes) {
-  return QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                 static_cast<qsizetype>(bytes.size()));
+/// On white: a bmp file knows no transparency and would show black there.
+QImage opaque(const QImage& image) {
+  if (!image.hasAlphaChannel()) return image;
+  QImage ground(image.size(), QImage::Format_RGB32);
+  ground.fill(Qt::white);
+  QPainter(&ground).drawImage(0, 0, image);
+  return ground;
 }
 
 }  // namespace
 
 screen::Picture readPicture(const std::string& path) {
-  QFile file(toQt(path));
-  if (!file.open(QIODevice::ReadOnly))
-    fail("No se puede leer el fichero " + path + ": " + fromQt(file.errorString()));
-  // One byte more than allowed tells too large a file, also of a device that has no size.
-  const QByteArray bytes = file.read(kMostBytes + 1);
-  if (bytes.size() > kMostBytes) fail("El fichero " + path + " ocupa más de 64 MiB");
+  ado::Stream file;
+  file.LoadFromFile(path);
   std::string reason;
-  const QImage image = decode(bytes, reason);
-  if (image.isNull()) fail("El fichero " + path + " " + reason);
-  const auto* first = reinterpret_cast<const std::byte*>(bytes.constData());
-  return {ado::Bytes(first, first + bytes.size()), image.width(), image.height()};
+  const QImage image = decode(file.Read(), reason);
+  if (image.isNull()) fail("El fichero " + path + ' ' + reason);
+  return {file.Read(), image.width(), image.height(), image};
 }
 
 void writePicture(const screen::Picture& picture, const std::string& path) {
   if (picture.empty()) fail("No hay ninguna imagen que guardar");
-  std::string reason;
-  const QImage image = decode(bytesOf(picture.file()), reason);
-  if (image.isNull()) fail("La imagen no se puede guardar: " + reason);
-  QSaveFile file(toQt(path));
-  const bool written =
-      file.open(QIODevice::WriteOnly) && QImageWriter(&file, "bmp").write(image) && file.commit();
-  if (!written) fail("No se puede escribir el fichero " + path + ": " + fromQt(file.errorString()));
+  const QImage image = imageOf(picture);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  if (image.isNull() || !QImageWriter(&buffer, "bmp").write(opaque(image)))
+    fail("La imagen no se puede guardar: está dañada");
+  ado::Stream file;
+  const auto* first = reinterpret_cast<const std::byte*>(buffer.data().constData());
+  file.Write(ado::Bytes(first, first + buffer.size()));
+  file.SaveToFile(path);
 }
 
 QImage imageOf(const screen::Picture& picture) {
+  if (picture.empty()) return {};
+  if (const auto* image = std::any_cast<QImage>(&picture.decoded())) return *image;
   std::string reason;
-  return picture.empty() ? QImage() : decode(bytesOf(picture.file()), reason);
+  return decode(picture.file(), reason);
 }
 
 }  // namespace korvantes::desktop

@@ -112,7 +112,8 @@ Picture HeadlessDesktop::loadPicture(const std::string& path) {
   ado::Stream file;
   file.LoadFromFile(path);
   const auto size = pictureSize(file.Read());
-  if (!size) throw ado::Error(0, "El fichero " + path + " no es una imagen conocida");
+  if (!size) throw ado::Error(0, "El fichero " + path + ' ' + kNoPicture);
+  if (size->tooLarge()) throw ado::Error(0, "El fichero " + path + ' ' + kTooManyPixels);
   return {file.Read(), size->width, size->height};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <any>
 #include <memory>
 #include <string>
 
@@ -12,14 +13,17 @@ namespace korvantes::screen {
 class Picture {
  public:
   Picture() = default;
-  Picture(ado::Bytes file, int width, int height)
-      : data_(std::make_shared<const Data>(Data{std::move(file), width, height})) {}
+  /// `decoded` is what the desktop made of the file and shows, so that it need not do so twice.
+  Picture(ado::Bytes file, int width, int height, std::any decoded = {})
+      : data_(std::make_shared<const Data>(
+            Data{std::move(file), width, height, std::move(decoded)})) {}
 
   bool empty() const { return !data_; }
-  /// Bytes of the image file. Only on a picture that is not empty, as the sizes in pixels.
+  /// Bytes of the image file. Only on a picture that is not empty, as all below.
   const ado::Bytes& file() const { return data_->file; }
   int width() const { return data_->width; }
   int height() const { return data_->height; }
+  const std::any& decoded() const { return data_->decoded; }
 
   /// The same picture, not merely an equal one.
   friend bool operator==(const Picture& a, const Picture& b) { return a.data_ == b.data_; }
@@ -28,6 +32,7 @@ class Picture {
   struct Data {
     ado::Bytes file;
     int width, height;
+    std::any decoded;
   };
   std::shared_ptr<const Data> data_;
 };

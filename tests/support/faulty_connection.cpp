@@ -58,8 +58,30 @@ void FaultyConnection::RollbackTrans() {
   counted("RollbackTrans", [&] { real_->RollbackTrans(); });
 }
 
+/// Stands in front of a row opened for update.
+class FaultyConnection::Row : public ado::RowWriter {
+ public:
+  Row(FaultyConnection& owner, ado::Recordset real) : owner_(owner), real_(std::move(real)) {}
+  void write(const std::vector<std::pair<std::string, ado::Variant>>& changes) override {
+    owner_.counted("Update", [&] {
+      for (const auto& [name, value] : changes) real_.Fields(name).Value(value);
+      real_.Update();
+    });
+  }
+
+ private:
+  FaultyConnection& owner_;
+  ado::Recordset real_;
+};
+
 ado::Recordset FaultyConnection::OpenForUpdate(std::string_view statement) {
-  return counted(statement, [&] { return real_->OpenForUpdate(statement); });
+  const ado::Recordset real = counted(statement, [&] { return real_->OpenForUpdate(statement); });
+  if (!real.isOpen()) return real;
+  std::vector<ado::Variant> cells;
+  for (std::size_t row = 0; row < real.RecordCount(); ++row)
+    for (std::size_t i = 0; i < real.Fields().Count(); ++i) cells.push_back(real.cell(row, i));
+  return {std::make_shared<const std::vector<ado::FieldDefinition>>(real.definitions()),
+          std::move(cells), std::make_shared<Row>(*this, real)};
 }
 
 }  // namespace korvantes::support

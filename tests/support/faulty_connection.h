@@ -35,7 +35,7 @@ class FaultyConnection : public ado::Connection {
   void countRollbacks(bool count) { countRollbacks_ = count; }
 
   /// The counted calls since the last failAt, heal or forgetCalls: statements, "BeginTrans",
-  /// "CommitTrans", "RollbackTrans".
+  /// "CommitTrans", "RollbackTrans", and "Update" of a row opened for it.
   const std::vector<std::string>& calls() const { return calls_; }
   void forgetCalls() { calls_.clear(); }
 
@@ -52,6 +52,8 @@ class FaultyConnection : public ado::Connection {
     ado::Error error;
     When when;
   };
+
+  class Row;
 
   /// Passes a call on, or fails it.
   template <class Call>

@@ -1,0 +1,280 @@
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "component/KORVAN.h"
+#include "component/mdoKORVANTES.h"
+#include "component/private_folder.h"
+#include "outside/screen/headless_desktop.h"
+#include "tests/support/faulty_connection.h"
+#include "tests/support/temporary_database.h"
+
+namespace korvantes {
+namespace {
+
+using support::FaultyConnection;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+using When = FaultyConnection::When;
+
+constexpr std::int32_t kAgent = 7;
+constexpr std::int32_t kNobody = 99;
+
+/// A picture file of the kind that begins so, 320 x 240, filled up to a size.
+screen::Picture picture(std::string_view beginning, std::size_t bytes = 400) {
+  ado::Bytes file;
+  for (const char c : beginning) file.push_back(static_cast<std::byte>(c));
+  file.resize(std::max(bytes, file.size()), std::byte{0x5A});
+  return {file, 320, 240};
+}
+constexpr std::string_view kBmp("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x40\1\0\0\xF0\0\0\0", 26);
+constexpr std::string_view kGif("GIF89a\x40\1\xF0\0", 10);
+constexpr std::string_view kJpg("\xFF\xD8\xFF\xC0\0\x11\x08\0\xF0\1\x40", 11);
+constexpr std::string_view kTif(
+    "II*\0\x08\0\0\0\2\0\0\1\3\0\1\0\0\0\x40\1\0\0\1\1\4\0\1\0\0\0\xF0\0\0\0", 34);
+
+/// The machine, with files that may turn out bad.
+struct Stage : screen::HeadlessDesktop {
+  std::function<void(const std::string&)> beforeSave, beforeLoad;
+  bool loadsNothing = false;
+
+  void savePicture(const screen::Picture& shown, const std::string& path) override {
+    if (beforeSave) beforeSave(path);
+    HeadlessDesktop::savePicture(shown, path);
+  }
+  screen::Picture loadPicture(const std::string& path) override {
+    if (beforeLoad) beforeLoad(path);
+    return loadsNothing ? screen::Picture() : HeadlessDesktop::loadPicture(path);
+  }
+};
+
+/// A value of the environment until the end of a test.
+class Environment {
+ public:
+  Environment(const char* name, const std::string& value) : name_(name) {
+    if (const char* before = std::getenv(name)) before_ = before;
+    ::setenv(name, value.c_str(), 1);
+  }
+  ~Environment() { before_ ? ::setenv(name_, before_->c_str(), 1) : ::unsetenv(name_); }
+  Environment(const Environment&) = delete;
+  Environment& operator=(const Environment&) = delete;
+
+ private:
+  const char* name_;
+  std::optional<std::string> before_;
+};
+
+/// Lets another user in between fetching a row and changing it.
+struct Link : FaultyConnection {
+  using FaultyConnection::FaultyConnection;
+  std::function<void()> meanwhile;
+  ado::Recordset OpenForUpdate(std::string_view statement) override {
+    ado::Recordset row = FaultyConnection::OpenForUpdate(statement);
+    if (meanwhile) meanwhile();
+    return row;
+  }
+};
+
+struct AgentPictures : testing::Test {
+  AgentPictures() : former(screen::Desktop::makeCurrent(&desktop)) {
+    desktop.onMessage = [this](const screen::MessageBox& box) {
+      messages.push_back("[" + std::to_string(box.style) + "] " + box.title + " | " + box.text);
+      EXPECT_TRUE(left().empty()) << "while the box is on screen";
+      return screen::HeadlessDesktop::Reply<screen::Answer>{box.defaultAnswer()};
+    };
+    component->MyBd(std::make_shared<plindor::BaseDatos>(connection));
+    sql("INSERT INTO AGE (AGE_ID,AGE_NOM) VALUES (7,'Ana')");
+  }
+  ~AgentPictures() override { screen::Desktop::makeCurrent(former); }
+
+  ado::Recordset sql(std::string_view text) { return database.connection()->Execute(text); }
+  void store(std::int32_t agent, const screen::Picture& shown) {
+    image.Picture = shown;
+    mdoKORVANTES::msGuardaImagen(agent, image);
+  }
+  /// What the agent's row shows after another one.
+  screen::Picture shown(std::int32_t agent = kAgent) {
+    image.Picture = picture(kTif);
+    mdoKORVANTES::msCargaImagen(agent, image);
+    return image.Picture();
+  }
+  bool shows(const screen::Picture& expected) {
+    const screen::Picture found = shown();
+    return expected.empty() ? found.empty() : !found.empty() && found.file() == expected.file();
+  }
+  /// Files left behind.
+  std::vector<std::string> left() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(place.file("")))
+      names.push_back(entry.path().string());
+    return names;
+  }
+
+  Stage desktop;
+  screen::Desktop* former;
+  support::TemporaryFolder place;
+  Environment runtime{"XDG_RUNTIME_DIR", place.file("")};
+  support::TemporaryDatabase database;
+  std::shared_ptr<Link> connection = std::make_shared<Link>(database.connection());
+  std::shared_ptr<KORVAN> component = KORVAN::Create();
+  screen::Form form{"frmPrueba"};
+  screen::Image image{form, "imgAgente"};
+  std::vector<std::string> messages;
+};
+
+TEST_F(AgentPictures, ComeBackAsTheyWereStored) {
+  EXPECT_TRUE(shown().empty());
+  EXPECT_TRUE(shown(kNobody).empty());
+  sql("INSERT INTO AGE (AGE_ID) VALUES (8)");
+  connection->meanwhile = [this] { sql("UPDATE AGE SET AGE_NOM='Eva' WHERE AGE_ID=7"); };
+  for (const std::string_view kind : {kBmp, kGif, kJpg, kTif}) {
+    store(kAgent, picture(kind));
+    EXPECT_TRUE(shows(picture(kind))) << kind;
+  }
+  EXPECT_EQ(sql("SELECT AGE_NOM FROM AGE WHERE AGE_ID=7").Fields(0).Value().text(), "Eva");
+  EXPECT_TRUE(shown(8).empty());
+  EXPECT_THAT(messages, IsEmpty());
+  EXPECT_THAT(left(), IsEmpty());
+}
+
+TEST_F(AgentPictures, TakeOneStatementAMoveAndAFileOnlyWhereThereIsAPicture) {
+  int files = 0;
+  desktop.beforeLoad = [&](const std::string&) { ++files; };
+  connection->forgetCalls();
+  shown();
+  EXPECT_EQ(files, 0);
+  EXPECT_THAT(connection->calls(), ElementsAre("select AGE_IMG from AGE where AGE_ID= 7"));
+  store(kAgent, picture(kBmp));
+  shown();
+  EXPECT_EQ(files, 2);
+  EXPECT_THAT(connection->calls(), ElementsAre("select AGE_IMG from AGE where AGE_ID= 7",
+                                               "select * from AGE where AGE_ID= 7", "Update",
+                                               "select AGE_IMG from AGE where AGE_ID= 7"));
+}
+
+TEST_F(AgentPictures, PassThroughFilesThatNobodyElseSees) {
+  std::vector<std::string> folders;
+  desktop.beforeLoad = [&](const std::string& path) {
+    struct stat state {};
+    ASSERT_EQ(::lstat(path.c_str(), &state), 0);
+    EXPECT_EQ(state.st_mode & 07777U, 0600U);
+    folders.push_back(std::filesystem::path(path).parent_path().string());
+    ASSERT_EQ(::lstat(folders.back().c_str(), &state), 0);
+    EXPECT_EQ(state.st_mode & 07777U, 0700U);
+    EXPECT_TRUE(S_ISDIR(state.st_mode));
+  };
+  store(kAgent, picture(kBmp));
+  shown();
+  ASSERT_EQ(folders.size(), 2U);
+  EXPECT_NE(folders[0], folders[1]);
+  EXPECT_THAT(folders, testing::Each(StartsWith(place.file(""))));
+
+  // Places where others could exchange the folder, or that are none, are passed over.
+  const support::TemporaryFolder open;
+  std::filesystem::permissions(open.file(""), std::filesystem::perms::all);
+  for (const std::string& bad : {open.file(""), open.file("no hay"), std::string("aqui")}) {
+    const Environment first("XDG_RUNTIME_DIR", bad);
+    const Environment second("TMPDIR", place.file(""));
+    EXPECT_THAT(PrivateFolder().file("x"), StartsWith(place.file(""))) << bad;
+    const Environment third("TMPDIR", bad);
+    EXPECT_THAT(PrivateFolder().file("x"), StartsWith("/tmp/korvantes-")) << bad;
+  }
+}
+
+TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
+  const screen::Picture old = picture(kGif), fresh = picture(kBmp, 300'000);
+  store(kAgent, old);
+  const auto fail = [](const std::string&) { throw ado::Error(5, "el disco ha fallado"); };
+  const auto spoil = [](const std::string& path) { std::filesystem::resize_file(path, 5); };
+  rlimit limit{};
+  ::getrlimit(RLIMIT_FSIZE, &limit);
+  const auto fill = [&](const std::string&) {
+    const rlimit full{100'000, limit.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &full);
+  };
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const struct {
+    std::function<void()> arrange;
+    std::int32_t agent;
+    screen::Picture shown;
+    const char* message;
+  } cases[] = {
+      {[&] { desktop.beforeSave = fail; }, kAgent, fresh, "Error : \r\nel disco ha fallado"},
+      {[&] { desktop.beforeLoad = fail; }, kAgent, fresh, "Error : \r\nel disco ha fallado"},
+      {[&] { desktop.beforeLoad = spoil; }, kAgent, fresh, " no es una imagen bmp, jpg, gif o tif"},
+      {[&] { desktop.beforeSave = fill; }, kAgent, fresh, ": el fichero es demasiado grande"},
+      {[&] { desktop.loadsNothing = true; }, kAgent, fresh, "[0] VRAL | El fichero no es valido"},
+      {[] {}, kAgent, {}, "Error : \r\nNo hay ninguna imagen que guardar"},
+      {[] {}, kNobody, fresh, "Error : \r\nNo hay ningún agente con el código 99"},
+      {[&] { connection->meanwhile = [this] { sql("DELETE FROM AGE WHERE AGE_ID=8"); }; }, 8, fresh,
+       "Error : \r\nEl registro ya no existe: otro usuario lo ha borrado"},
+  };
+  sql("INSERT INTO AGE (AGE_ID) VALUES (8)");
+  for (const auto& each : cases) {
+    messages.clear();
+    each.arrange();
+    store(each.agent, each.shown);
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    desktop.beforeSave = desktop.beforeLoad = nullptr;
+    desktop.loadsNothing = false;
+    EXPECT_THAT(messages, ElementsAre(EndsWith(each.message)));
+    EXPECT_TRUE(messages[0].starts_with("[0] VRAL | ") ||
+                messages[0].starts_with("[0] KORVANTES | Error : \r\n"));
+    EXPECT_THAT(left(), IsEmpty()) << each.message;
+    EXPECT_TRUE(shows(old)) << each.message;
+  }
+  std::signal(SIGXFSZ, handler);
+  store(kAgent, fresh);
+  EXPECT_TRUE(shows(fresh));
+}
+
+TEST_F(AgentPictures, SurviveAFailureOfAnyCall) {
+  screen::Picture stored = picture(kGif);
+  store(kAgent, stored);
+  for (const When when : {When::Before, When::After}) {
+    for (std::size_t call = 1; call <= 2; ++call) {
+      const screen::Picture fresh = picture(kBmp, 500 + call);
+      messages.clear();
+      connection->failAt(call, ado::Error(64, "se ha cortado la conexión"), when);
+      store(kAgent, fresh);
+      EXPECT_TRUE(connection->failed());
+      EXPECT_EQ(connection->calls().size(), call);
+      EXPECT_THAT(messages, ElementsAre("[0] KORVANTES | Error : \r\nse ha cortado la conexión"));
+      // Only an answer lost behind the last call leaves the new picture.
+      EXPECT_TRUE(shows(when == When::After && call == 2 ? fresh : stored)) << call;
+      connection->heal();
+      store(kAgent, fresh);
+      EXPECT_THAT(connection->calls(), testing::SizeIs(2));
+      EXPECT_TRUE(shows(fresh));
+      stored = fresh;
+    }
+  }
+  EXPECT_THAT(left(), IsEmpty());
+}
+
+TEST_F(AgentPictures, ThatCannotBeShownLeaveTheControlEmpty) {
+  sql("UPDATE AGE SET AGE_IMG=0x WHERE AGE_ID=7");
+  EXPECT_TRUE(shown().empty());
+  EXPECT_THAT(messages, IsEmpty());
+  auto row = connection->OpenForUpdate("select * from AGE where AGE_ID= 7");
+  row.Fields("AGE_IMG").Value(ado::Bytes(10));
+  row.Update();
+  EXPECT_TRUE(shown().empty());
+  EXPECT_THAT(messages, ElementsAre(HasSubstr("no es una imagen bmp, jpg, gif o tif")));
+
+  messages.clear();
+  connection->failAt(1, ado::Error(64, "se ha cortado la conexión"));
+  EXPECT_TRUE(shown().empty());
+  EXPECT_THAT(messages, ElementsAre("[0] KORVANTES | se ha cortado la conexión"));
+  EXPECT_THAT(left(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace korvantes
