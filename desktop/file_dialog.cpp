@@ -22,10 +22,18 @@ QStringList filtersOf(std::string_view filter) {
   return filters;
 }
 
-std::optional<std::string> askForFile(WindowStack& stack, std::string_view filter) {
-  // Qt's own dialog: it needs no session bus and speaks Spanish with the other windows.
-  QFileDialog dialog(stack.owner(), "Abrir");
+void speakSpanish(QFileDialog& dialog, const char* accept) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setLabelText(QFileDialog::LookIn, "Buscar en:");
+  dialog.setLabelText(QFileDialog::FileName, "&Nombre:");
+  dialog.setLabelText(QFileDialog::FileType, "Tipo:");
+  dialog.setLabelText(QFileDialog::Accept, accept);
+  dialog.setLabelText(QFileDialog::Reject, "&Cancelar");
+}
+
+std::optional<std::string> askForFile(WindowStack& stack, std::string_view filter) {
+  QFileDialog dialog(stack.owner(), "Abrir");
+  speakSpanish(dialog, "&Abrir");
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   const QStringList filters = filtersOf(filter);

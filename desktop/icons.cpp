@@ -227,31 +227,62 @@ void exclamation(QPainter& painter) {
   painter.drawPoint(QPointF(8, 12.2));
 }
 
+void pdf(QPainter& painter) {
+  sheet(painter, {2.5, 1.5, 10.5, 13});
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kRed);
+  painter.drawRoundedRect(QRectF(1, 7.6, 11, 4.6), 0.8, 0.8);
+  QFont font(QStringList{"Liberation Sans", "Arial", "DejaVu Sans"});
+  font.setPixelSize(5);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(kPaper);
+  painter.drawText(QRectF(1, 7.6, 11, 4.6), Qt::AlignCenter, "PDF");
+}
+
+void arrow(QPainter& painter, double direction) {
+  painter.setPen(pen(kBlue, 2.2));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPolyline(
+      QPolygonF{{8 - 2.5 * direction, 3.5}, {8 + 2.5 * direction, 8}, {8 - 2.5 * direction, 12.5}});
+}
+
+void previous(QPainter& painter) {
+  arrow(painter, -1);
+}
+
+void next(QPainter& painter) {
+  arrow(painter, 1);
+}
+
+void smaller(QPainter& painter) {
+  search(painter);
+  painter.drawLine(QPointF(4.4, 6.5), QPointF(8.6, 6.5));
+}
+
+void larger(QPainter& painter) {
+  smaller(painter);
+  painter.drawLine(QPointF(6.5, 4.4), QPointF(6.5, 8.6));
+}
+
 struct Drawing {
   const char* name;
   void (*paint)(QPainter&);
 };
 
 constexpr std::array kDrawings{
-    Drawing{"buscar", search},
-    Drawing{"imprimir", print},
-    Drawing{"hoja", spreadsheet},
-    Drawing{"marcar", tickAll},
-    Drawing{"cancelar", cancel},
-    Drawing{"borrar", bin},
-    Drawing{"guardar", disk},
-    Drawing{"salir", leave},
-    Drawing{"nuevo", newSheet},
-    Drawing{"imagen", landscape},
-    Drawing{"agentes", people},
-    Drawing{"liquidacion", coins},
-    Drawing{"informe", report},
-    Drawing{"base", database},
-    Drawing{"acerca", information},
-    Drawing{"critico", critical},
-    Drawing{"pregunta", question},
-    Drawing{"aviso", exclamation},
-    Drawing{"informacion", information},
+    Drawing{"buscar", search},     Drawing{"imprimir", print},
+    Drawing{"hoja", spreadsheet},  Drawing{"marcar", tickAll},
+    Drawing{"cancelar", cancel},   Drawing{"borrar", bin},
+    Drawing{"guardar", disk},      Drawing{"salir", leave},
+    Drawing{"nuevo", newSheet},    Drawing{"imagen", landscape},
+    Drawing{"agentes", people},    Drawing{"liquidacion", coins},
+    Drawing{"informe", report},    Drawing{"pdf", pdf},
+    Drawing{"anterior", previous}, Drawing{"siguiente", next},
+    Drawing{"alejar", smaller},    Drawing{"acercar", larger},
+    Drawing{"base", database},     Drawing{"acerca", information},
+    Drawing{"critico", critical},  Drawing{"pregunta", question},
+    Drawing{"aviso", exclamation}, Drawing{"informacion", information},
 };
 
 const Drawing* drawingNamed(const QString& name) {

@@ -10,7 +10,8 @@ namespace korvantes::desktop {
 
 /// Draws the icon of that name into a square area: "buscar", "imprimir", "hoja", "marcar",
 /// "cancelar", "borrar", "guardar", "salir", "nuevo", "imagen", "agentes", "liquidacion",
-/// "informe", "base", "acerca"; for message boxes "critico", "pregunta", "aviso", "informacion".
+/// "informe", "pdf", "anterior", "siguiente", "alejar", "acercar", "base", "acerca"; for message
+/// boxes "critico", "pregunta", "aviso", "informacion".
 /// Unknown names draw nothing.
 void paintIcon(QPainter& painter, const QString& name, const QRectF& area, bool enabled = true);
 bool hasIcon(const QString& name);

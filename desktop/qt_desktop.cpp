@@ -1,7 +1,9 @@
 #include "desktop/qt_desktop.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QPixmap>
+#include <QUrl>
 #include <stdexcept>
 
 #include "desktop/choice_dialog.h"
@@ -10,7 +12,9 @@
 #include "desktop/look.h"
 #include "desktop/message_dialog.h"
 #include "desktop/pictures.h"
+#include "desktop/print_preview.h"
 #include "desktop/robot.h"
+#include "desktop/save_dialog.h"
 #include "desktop/window_stack.h"
 #include "outside/ado/error.h"
 #include "outside/ado/utf8.h"
@@ -143,6 +147,29 @@ std::optional<std::string> QtDesktop::chooseFile(const screen::FileDialog& dialo
   }
   const UsualPointer pointer(mousePointer());
   return askForFile(*stack_, dialog.filter);
+}
+
+void QtDesktop::preview(const PrintDocument& document) {
+  const UsualPointer pointer(mousePointer());
+  PrintPreview(*this, *stack_, document).showPages();
+}
+
+std::optional<std::filesystem::path> QtDesktop::askWhereToSave(const SaveRequest& request) {
+  const UsualPointer pointer(mousePointer());
+  if (saveFolder_.empty()) saveFolder_ = documentsFolder();
+  const auto file = desktop::askWhereToSave(*this, *stack_, request, saveFolder_);
+  if (file) saveFolder_ = file->parent_path();
+  return file;
+}
+
+void QtDesktop::offerToOpen(const std::filesystem::path& file, const std::string& question) {
+  constexpr int kQuestion = screen::style::Question | screen::style::YesNo;
+  const std::string title(kDefaultTitle);
+  if (messageBox({question, kQuestion, title}) != screen::Answer::Yes) return;
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file.string()))))
+    messageBox({"No se ha podido abrir " + file.string() +
+                    ". Compruebe que hay un programa instalado para ese tipo de ficheros.",
+                screen::style::Exclamation, title});
 }
 
 void QtDesktop::sendKeys(std::string_view keys) {

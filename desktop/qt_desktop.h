@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -13,6 +14,8 @@ class QWidget;
 namespace korvantes::desktop {
 
 class WindowStack;
+struct PrintDocument;
+struct SaveRequest;
 
 /// The desktop of real windows. Needs an Application that outlives it.
 ///
@@ -55,6 +58,17 @@ class QtDesktop : public screen::Desktop {
   /// open; throws ado::Error when the file cannot be written.
   bool capture(const std::string& path);
 
+  // Documents, which nobody but a user in front of the windows can deal with.
+
+  /// Shows the pages of a document and returns when the user has done with it. Throws what painting
+  /// them threw.
+  void preview(const PrintDocument& document);
+  /// Asks for the file to save under, beginning in the folder where the last one was saved, at
+  /// first in the user's documents. Nothing when the dialog was left.
+  std::optional<std::filesystem::path> askWhereToSave(const SaveRequest& request);
+  /// Asks the question, and at a Yes opens the file with the program that the user has for it.
+  void offerToOpen(const std::filesystem::path& file, const std::string& question);
+
   void showModal(screen::Form& form) override;
   screen::Answer messageBox(const screen::MessageBox& box) override;
   std::optional<std::size_t> chooseFromList(const screen::ListDialog& dialog) override;
@@ -76,6 +90,7 @@ class QtDesktop : public screen::Desktop {
 
   std::unique_ptr<WindowStack> stack_;
   std::vector<screen::Form*> forms_;
+  std::filesystem::path saveFolder_;
 };
 
 }  // namespace korvantes::desktop

@@ -67,7 +67,7 @@ void WindowStack::sendKey(const screen::Key& key) {
 }
 
 void WindowStack::oweEnterRelease() {
-  enterOwed_ = topForm() != nullptr;
+  enterOwed_ = windows_.size() > 1 && windows_[windows_.size() - 2].form != nullptr;
 }
 
 /// The release of the Enter that closed a dialog arrives wherever the window system has put the

@@ -43,7 +43,7 @@ class WindowStack : public QObject {
   std::size_t changes() const { return changes_; }
 
   void sendKey(const screen::Key& key);
-  /// A press of Enter closed a dialog: its release is for the form below.
+  /// A press of Enter closes the topmost dialog: its release is for the form right below it.
   void oweEnterRelease();
   /// Hands the waiting keys to the topmost form.
   void settle();

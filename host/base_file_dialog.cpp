@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include "desktop/file_dialog.h"
 #include "desktop/look.h"
 
 namespace korvantes::host {
@@ -11,14 +12,8 @@ namespace {
 
 std::optional<std::string> ask(QFileDialog& dialog, const std::string& current,
                                const char* button) {
-  // Qt's own dialog: it needs no session bus.
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  desktop::speakSpanish(dialog, button);
   dialog.setNameFilters({"Bases de datos (*.db)", "Todos los ficheros (*)"});
-  dialog.setLabelText(QFileDialog::LookIn, "Buscar en:");
-  dialog.setLabelText(QFileDialog::FileName, "Nombre:");
-  dialog.setLabelText(QFileDialog::FileType, "Tipo:");
-  dialog.setLabelText(QFileDialog::Accept, button);
-  dialog.setLabelText(QFileDialog::Reject, "Cancelar");
   dialog.setDirectory(current.empty() ? QDir::homePath()
                                       : QFileInfo(desktop::toQt(current)).absolutePath());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
@@ -32,7 +27,7 @@ std::optional<std::string> ask(QFileDialog& dialog, const std::string& current,
 std::optional<std::string> askForBaseFile(QWidget& parent, const std::string& current) {
   QFileDialog dialog(&parent, "Elegir base de datos");
   dialog.setFileMode(QFileDialog::ExistingFile);
-  return ask(dialog, current, "Abrir");
+  return ask(dialog, current, "&Abrir");
 }
 
 std::optional<std::string> askForNewBaseFile(QWidget& parent, const std::string& current) {
@@ -42,7 +37,7 @@ std::optional<std::string> askForNewBaseFile(QWidget& parent, const std::string&
   dialog.setDefaultSuffix("db");
   // A file that exists is never written over, so there is nothing to confirm.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  return ask(dialog, current, "Crear");
+  return ask(dialog, current, "&Crear");
 }
 
 }  // namespace korvantes::host

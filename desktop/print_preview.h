@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QPrinter>
+#include <exception>
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "desktop/modal_dialog.h"
+
+class QPrintPreviewWidget;
+
+namespace korvantes::desktop {
+
+class PreviewBar;
+class QtDesktop;
+
+/// A document to be looked at, printed and saved. It is painted as often as that takes.
+struct PrintDocument {
+  std::string title;
+  std::string suggestedName;                                  ///< without folder and extension
+  std::function<void(QPrinter&)> setUp;                       ///< paper and margins
+  std::function<void(QPrinter&)> paint;                       ///< all pages
+  std::function<void(const std::filesystem::path&)> savePdf;  ///< failures are exceptions
+};
+
+/// Shows the pages of a document as they will be printed. What fails while it prints or saves is
+/// told in a message box, and the window stays open.
+class PrintPreview : public ModalDialog {
+ public:
+  PrintPreview(QtDesktop& desktop, WindowStack& stack, const PrintDocument& document);
+
+  /// Returns when the window has been closed. Throws what painting the pages threw.
+  void showPages();
+
+ protected:
+  void enterPressed() override {}
+
+ private:
+  void addButtons();
+  void paintPages(QPrinter& printer);
+  void print();
+  void savePdf();
+  void attempt(const std::function<void()>& work);
+  void tell(const std::string& words, int style);
+
+  QtDesktop& desktop_;
+  WindowStack& stack_;
+  const PrintDocument& document_;
+  QPrinter printer_;
+  QPrintPreviewWidget& pages_;
+  PreviewBar& bar_;
+  std::exception_ptr failure_;
+};
+
+}  // namespace korvantes::desktop

@@ -1,0 +1,172 @@
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QGraphicsView>
+#include <QPainter>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <fstream>
+#include <gmock/gmock.h>
+
+#include "desktop/input_events.h"
+#include "desktop/look.h"
+#include "desktop/print_preview.h"
+#include "desktop/save_dialog.h"
+#include "tests/desktop/stages.h"
+
+namespace korvantes::desktop {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+template <class Window>
+Window& openWindow() {
+  for (QWidget* each : QApplication::topLevelWidgets())
+    if (auto* window = dynamic_cast<Window*>(each); window != nullptr && window->isVisible())
+      return *window;
+  throw std::logic_error("no such window is open");
+}
+
+void press(QWidget& window, const char* key) {
+  sendPress(window, *screen::keyNamed(key));
+}
+
+/// A user in front of documents, who answers each message box with Yes or Aceptar.
+class Documents : public testing::Test {
+ protected:
+  Documents() {
+    desktop_.onMessage = [this](const screen::MessageBox& box) {
+      messages_.push_back(box.text);
+      return QtDesktop::Reply<screen::Answer>{box.yesNo() ? reply_ : screen::Answer::Ok};
+    };
+  }
+
+  /// Shows the preview of a document of 30 pages, lets the user act on it, and closes it.
+  void preview(const std::function<void(PrintPreview&)>& act) {
+    QTimer::singleShot(0, [act] {
+      auto& window = openWindow<PrintPreview>();
+      act(window);
+      press(window, "Escape");
+      EXPECT_FALSE(window.isVisible());
+    });
+    desktop_.preview({"Liquidación 13", "Liquidacion_13", [](QPrinter&) {},
+                      [this](QPrinter& printer) {
+                        QPainter painter(&printer);
+                        for (int page = 1; page <= 30; ++page) {
+                          if (page > 1) printer.newPage();
+                          painter.drawText(QPointF(2000, 2000), QString::number(page));
+                        }
+                      },
+                      [this](const fs::path& file) {
+                        if (file.filename() == "lleno.pdf")
+                          throw std::runtime_error("No queda sitio.");
+                        std::ofstream(file) << "pdf";
+                      }});
+  }
+
+  /// What the user does with the save dialog that the next action opens: accepts a name, or leaves.
+  void whenAskedToSave(const QString& name) {
+    QTimer::singleShot(0, [this, name] {
+      auto& dialog = openWindow<QFileDialog>();
+      suggested_ = fromQt(dialog.selectedFiles().value(0));
+      if (name.isEmpty()) return dialog.reject();
+      dialog.setDirectory(folder_.path());
+      dialog.selectFile(name);
+      press(dialog, "Enter");
+      if (dialog.isVisible()) dialog.reject();
+    });
+  }
+
+  static QPushButton& button(QWidget& window, const char* caption) {
+    for (QPushButton* each : window.findChildren<QPushButton*>())
+      if (each->text() == QString::fromUtf8(caption)) return *each;
+    throw std::logic_error("no such button");
+  }
+  fs::path path(const char* name) const { return fs::path(fromQt(folder_.path())) / name; }
+
+  QTemporaryDir folder_;
+  QtDesktop desktop_;
+  screen::Answer reply_ = screen::Answer::Yes;
+  std::vector<std::string> messages_;
+  std::string suggested_;
+};
+
+}  // namespace
+
+TEST_F(Documents, PreviewTurnsPages) {
+  preview([](PrintPreview& window) {
+    auto& pages = *window.findChild<QPrintPreviewWidget*>();
+    auto& page = *window.findChild<QSpinBox*>();
+    EXPECT_EQ(pages.pageCount(), 30);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pages.currentPage() == 2; }));
+    EXPECT_EQ(page.value(), 2);
+    page.setValue(30);
+    EXPECT_EQ(pages.currentPage(), 30);
+  });
+  EXPECT_THAT(messages_, ElementsAre());
+}
+
+TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
+  preview([&](PrintPreview& window) {
+    auto& save = button(window, "&Guardar como PDF…");
+    whenAskedToSave({});
+    save.click();
+    EXPECT_EQ(fs::path(suggested_).filename(), "Liquidacion_13.pdf");
+    whenAskedToSave("lleno");
+    save.click();
+    EXPECT_THAT(messages_, ElementsAre("No queda sitio."));
+    EXPECT_TRUE(window.isVisible());
+    whenAskedToSave("bien");
+    save.click();
+    EXPECT_TRUE(fs::exists(path("bien.pdf")));
+    whenAskedToSave({});
+    save.click();
+    EXPECT_EQ(suggested_, path("Liquidacion_13.pdf")) << "the folder used last";
+  });
+}
+
+TEST_F(Documents, PreviewSaysThatThereIsNoPrinter) {
+  preview([&](PrintPreview& window) { button(window, "Im&primir…").click(); });
+  EXPECT_THAT(messages_, ElementsAre(HasSubstr("No hay ninguna impresora")));
+}
+
+TEST_F(Documents, PagesThatCannotBePaintedAreTheCallersMatter) {
+  EXPECT_THROW(desktop_.preview({"",
+                                 "",
+                                 [](QPrinter&) {},
+                                 [](QPrinter&) { throw std::runtime_error("no hay páginas"); },
+                                 {}}),
+               std::runtime_error);
+}
+
+TEST_F(Documents, AFileIsReplacedOnlyWithConsent) {
+  std::ofstream(path("hoja.xlsx")) << "x";
+  const SaveRequest request{"Guardar", "Libros|*.xlsx", "xlsx", "hoja.xlsx"};
+  reply_ = screen::Answer::No;
+  whenAskedToSave("hoja");
+  EXPECT_EQ(desktop_.askWhereToSave(request), std::nullopt);
+  reply_ = screen::Answer::Yes;
+  whenAskedToSave("hoja");
+  EXPECT_EQ(desktop_.askWhereToSave(request), path("hoja.xlsx"));
+  EXPECT_THAT(messages_, ElementsAre(HasSubstr("Ya existe hoja.xlsx"), HasSubstr("Ya existe")));
+}
+
+TEST_F(Documents, OfferToOpenTellsWhereNothingOpens) {
+  reply_ = screen::Answer::No;
+  desktop_.offerToOpen("/tmp/hoja.xlsx", "¿Abrirla?");
+  reply_ = screen::Answer::Yes;
+  desktop_.offerToOpen("/tmp/hoja.xlsx", "¿Abrirla?");
+  EXPECT_THAT(messages_, ElementsAre("¿Abrirla?", "¿Abrirla?", HasSubstr("No se ha podido abrir")));
+}
+
+}  // namespace korvantes::desktop
