@@ -1,7 +1,176 @@
 #include "report/frmLiquidAgentes.h"
 
+#include <algorithm>
+#include <initializer_list>
+
+#include "component/mdoKORVANTES.h"
+#include "outside/screen/conversions.h"
+#include "outside/screen/desktop.h"
+#include "outside/screen/user_input.h"
+#include "settlement/frmNewLiquidAgentes.h"
+
 namespace korvantes {
 
-frmLiquidAgentes::frmLiquidAgentes() : Form("frmLiquidAgentes") {}
+namespace {
+
+constexpr int kModal = 1;
+constexpr std::int32_t kPedirAgente = -1;
+constexpr const char* kTeclaEscape = "\x1b";
+
+template <class T>
+screen::ControlArray<T> arrayOf(screen::Form& form, const char* name,
+                                std::initializer_list<int> indexes) {
+  screen::ControlArray<T> controls(form, name);
+  for (int index : indexes) controls.add(index);
+  return controls;
+}
+
+bool sonDigitos(const std::string& texto) {
+  return std::ranges::all_of(texto, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::string versionDelPrograma() {
+  const screen::ProgramVersion& version = screen::Desktop::current().version();
+  return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
+         std::to_string(version.revision);
+}
+
+}  // namespace
+
+frmLiquidAgentes::frmLiquidAgentes()
+    : Form("frmLiquidAgentes"),
+      Label1(arrayOf<screen::Label>(*this, "Label1", {1})),
+      Option1(arrayOf<screen::OptionButton>(*this, "Option1", {kPorFecha, kPorCliente})),
+      Check1(arrayOf<screen::CheckBox>(*this, "Check1", {kPorFacturas, kPorAlbaranes})),
+      Text1(arrayOf<screen::TextBox>(
+          *this, "Text1", {kCodigo, kNombre, kDesde, kHasta, kSerie, kDesdeNumero, kHastaNumero})) {
+  for (int index : {0, 2, 4, 5, 7, 8}) Label1.add(index);
+  layOut();
+  wire();
+}
+
+void frmLiquidAgentes::wire() {
+  for (const auto& [number, check] : Check1.all())
+    check->Click = [this, index = number] { Check1_Click(index); };
+  for (const auto& [number, box] : Text1.all()) {
+    const int index = number;
+    box->GotFocus = [this, index] { Text1_GotFocus(index); };
+    box->LostFocus = [this, index] { Text1_LostFocus(index); };
+    box->KeyPress = [this, index](int& character) { Text1_KeyPress(index, character); };
+  }
+  cmdBuscar.Click = [this] { cmdBuscar_Click(); };
+  cmdSalir.Click = [this] { cmdSalir_Click(); };
+  cmdEmision.Click = [this] { cmdEmision_Click(); };
+  cmdExcel.Click = [this] { cmdExcel_Click(); };
+  dbgLiqui.ButtonClick = [this](int column) { dbgLiqui_ButtonClick(column); };
+}
+
+void frmLiquidAgentes::Form_Load() {
+  oUtil = std::make_unique<plindor::UtilFormulario>();
+  oUtil->Conexion(mdoKORVANTES::Conexion());
+  oUtil->ColorFoco = 65535;
+  oUtil->ColorNormal = 16777215;
+  sTituloForm = " Informe de liquidaciones a agentes";
+  Caption = sTituloForm + "(Versión " + versionDelPrograma() + ")";
+  rs = ado::Recordset();
+  for (const auto& [index, box] : Text1.all()) box->Text = "";
+  Option1(kPorFecha).Value = true;
+  Check1(kPorFacturas).Value = 0;
+  Check1(kPorAlbaranes).Value = 0;
+  Check1(kPorAlbaranes).Enabled = false;
+}
+
+void frmLiquidAgentes::Form_KeyUp(int& keyCode, int /*shift*/) {
+  switch (keyCode) {
+    case screen::key::Enter:
+      keyCode = 0;
+      if (Tag().empty()) screen::SendKeys("\t");
+      Tag = "";
+      break;
+    case screen::key::Escape:
+      Unload();
+      break;
+    case screen::key::F1:
+      Tag = "e";
+      msBuscarAgente(kPedirAgente);
+      break;
+    default:
+      Tag = "";
+      screen::DoEvents();
+  }
+}
+
+void frmLiquidAgentes::Check1_Click(int index) {
+  if (index != kPorFacturas) return;
+  const bool bFacturas = Check1(kPorFacturas).Value() != 0;
+  Option1(kPorCliente).Enabled = bFacturas;
+  if (!bFacturas) Option1(kPorFecha).Value = true;
+  Check1(kPorAlbaranes).Enabled = bFacturas;
+}
+
+void frmLiquidAgentes::Text1_GotFocus(int index) {
+  screen::TextBox& box = Text1(index);
+  if (esFecha(index)) {
+    std::string digits = box.Text();
+    std::erase(digits, '/');
+    box.Text = digits;
+  }
+  oUtil->AlRecibirFoco(box, "");
+}
+
+void frmLiquidAgentes::Text1_KeyPress(int index, int& character) {
+  if (index == kCodigo)
+    oUtil->FiltraTecla(Text1(index), character, false);
+  else if (esFecha(index))
+    oUtil->FiltraTecla(Text1(index), character, true);
+}
+
+void frmLiquidAgentes::Text1_LostFocus(int index) {
+  screen::TextBox& box = Text1(index);
+  oUtil->AlPerderFoco(box, "");
+  if (box.Text().empty()) {
+    if (index == kCodigo) {
+      nIdAgente = 0;
+      Text1(kNombre).Text = "";
+    }
+    return;
+  }
+
+  if (index == kCodigo) {
+    // The key filter lets a decimal separator through.
+    if (!sonDigitos(box.Text())) return avisaCodigoNoValido();
+    msBuscarAgente(screen::CLng(box.Text()));
+    if (nIdAgente == 0) {
+      Tag = "e";
+      screen::MsgBox("Codigo agente no existe", screen::style::Exclamation, sTituloForm);
+      box.SetFocus();
+    }
+  } else if (esFecha(index)) {
+    oUtil->AlPerderFoco(box, "dd/mm/yyyy");
+  }
+}
+
+void frmLiquidAgentes::cmdBuscar_Click() {
+  msBuscarLiquidaciones();
+}
+
+void frmLiquidAgentes::cmdSalir_Click() {
+  screen::SendKeys(kTeclaEscape);
+}
+
+void frmLiquidAgentes::dbgLiqui_ButtonClick(int columnIndex) {
+  if (!rs.isOpen() || rs.RecordCount() < 1) return;
+  if (columnIndex != 2 && columnIndex != 3) return;
+  const bool bFacturas = Check1(kPorFacturas).Value() == 1;
+  if (!(columnIndex == 3 && bFacturas) && !(columnIndex == 2 && !bFacturas)) return;
+
+  {
+    frmNewLiquidAgentes oFrm;
+    oFrm.nLiqui = rs.Collect("Lca_Id").asLong();
+    oFrm.Show(kModal);
+  }
+  msBuscarLiquidaciones();
+  screen::DoEvents();
+}
 
 }  // namespace korvantes

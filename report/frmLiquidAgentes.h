@@ -1,14 +1,94 @@
-// report: the screen on which stored settlements are searched, printed and exported.
+// report: the screen on which stored settlements are searched, opened, printed and exported. Each
+// procedure stands in a file of its own, named after it; the texts of its statements stand in
+// search_statements.cpp, the columns of the result in result_columns.cpp, positions, captions and
+// colours in frmLiquidAgentes_layout.cpp.
 #pragma once
 
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "outside/ado/recordset.h"
+#include "outside/plindor/util_formulario.h"
 #include "outside/screen/form.h"
+#include "report/search_statements.h"
 
 namespace korvantes {
 
-/// Search of stored settlements.
+/// Search of stored settlements by agent and date: one row per settlement, per invoice of a
+/// settlement, or per delivery note line. Every statement that it sends is a SELECT.
 class frmLiquidAgentes : public screen::Form {
  public:
   frmLiquidAgentes();
+
+  /// Searches with the filters on screen and shows the result. A date that is none is told and
+  /// gets the focus, and nothing else changes. Errors of the connection travel on; the screen then
+  /// shows no result.
+  void msBuscarLiquidaciones();
+
+  void Form_Load() override;
+  void Form_KeyUp(int& keyCode, int shift) override;
+
+ private:
+  // Indexes of Text1, Check1 and Option1.
+  static constexpr int kCodigo = 0, kNombre = 1, kDesde = 2, kHasta = 3;
+  static constexpr int kSerie = 4, kDesdeNumero = 5, kHastaNumero = 6;
+  static constexpr int kPorFacturas = 0, kPorAlbaranes = 1;
+  static constexpr int kPorFecha = 0, kPorCliente = 1;
+
+  void layOut();
+  void wire();
+
+  void Check1_Click(int index);
+  void Text1_GotFocus(int index);
+  void Text1_LostFocus(int index);
+  void Text1_KeyPress(int index, int& character);
+  void cmdBuscar_Click();
+  void cmdSalir_Click();
+  void cmdEmision_Click();
+  void cmdExcel_Click();
+  void dbgLiqui_ButtonClick(int columnIndex);
+
+  /// Looks an agent up; a negative code asks the user.
+  void msBuscarAgente(const std::int32_t& nCodigo);
+
+  /// Says that the code in Text1(0) is none, drops the agent found before, and gives the focus to
+  /// the box.
+  void avisaCodigoNoValido();
+  static bool esFecha(int index) { return index == kDesde || index == kHasta; }
+  /// True when both limits are empty or dates; else tells of the first that is neither.
+  bool compruebaFechas();
+  /// Takes the last result off the screen.
+  void retiraResultado();
+  report::Filtros filtros() const;
+  report::Forma forma() const;
+  void muestraTotal();
+  /// The recordset of the shape's rows; closed when the shape by invoice has none.
+  ado::Recordset buscaFilas();
+  /// "Primera y 31/12/2026": the limits of the date on screen.
+  std::string textoRango() const;
+
+  std::unique_ptr<plindor::UtilFormulario> oUtil;
+  std::int32_t nIdAgente = 0;  ///< agent of the filter, 0 for all
+  std::string sTituloForm;
+  std::string sSqlLiqui;  ///< the statement in work
+  std::string sCriterio;  ///< what the search leaves for the report
+  ado::Recordset rs;      ///< the result that dbgLiqui shows
+
+  // From back to front. Label1(1) lies behind the shape.
+  screen::ControlArray<screen::Label> Label1;
+  screen::Shape Shape1{*this, "Shape1"};
+  screen::Label lblTotales{*this, "lblTotales"};
+  screen::Label Label2{*this, "Label2"};
+  screen::Frame Frame1{*this, "Frame1"};
+  screen::ControlArray<screen::OptionButton> Option1;
+  screen::ControlArray<screen::CheckBox> Check1;
+  screen::ControlArray<screen::TextBox> Text1;
+  screen::PictureButton cmdBuscar{*this, "cmdBuscar"};
+  screen::PictureButton cmdSalir{*this, "cmdSalir"};
+  screen::PictureButton cmdEmision{*this, "cmdEmision"};
+  screen::PictureButton cmdExcel{*this, "cmdExcel"};
+  screen::DataGrid dbgLiqui{*this, "dbgLiqui"};
 };
 
 }  // namespace korvantes
