@@ -75,7 +75,8 @@ ado::Error writeFailure(const fs::path& file, int errorNumber) {
 SheetFile::SheetFile(const fs::path& place) : place_(place) {
   std::error_code failure;
   if (fs::is_symlink(fs::symlink_status(place_, failure))) {
-    place_ = fs::weakly_canonical(place_, failure);
+    const fs::path target = fs::read_symlink(place_, failure);
+    if (!failure) place_ = fs::weakly_canonical(place_.parent_path() / target, failure);
     if (failure) throw writeFailure(place, ado::systemWords(failure));
   }
   const fs::path beside = place_.has_parent_path() ? place_.parent_path() : fs::path(".");

@@ -44,10 +44,10 @@ class TableWriter {
     setUpPages();
     writeTitle();
     writeHeading();
+    setUpFilter();
     for (std::size_t row = 0; row < table_.rows(); ++row) writeRow(row);
     writeTotals();
     setWidths();
-    setUpFilter();
     workbook_.close();
   }
 
@@ -72,6 +72,7 @@ class TableWriter {
   void setUpPages() const;
   void writeTitle() const;
   void writeHeading() const;
+  void setUpFilter() const;
   void writeRow(std::size_t row);
   void writeCell(lxw_row_t row, std::size_t column, const ado::Variant& value, bool ticked);
   void writeNumber(lxw_row_t row, std::size_t column, const ado::Variant& value, bool ticked);
@@ -81,7 +82,6 @@ class TableWriter {
   void writeTotalRow(lxw_row_t row, const char* caption, bool ticked) const;
   std::string range(std::size_t column) const;
   void setWidths() const;
-  void setUpFilter() const;
 
   Workbook& workbook_;
   lxw_worksheet* sheet_;
@@ -153,6 +153,19 @@ void TableWriter::writeTitle() const {
 void TableWriter::writeHeading() const {
   for (std::size_t column = 0; column < columns_.size(); ++column)
     writeText(kHeadingRow, column, described(column).caption, columns_[column].heading);
+}
+
+/// Before the rows: the library refuses it once they have left the memory.
+void TableWriter::setUpFilter() const {
+  if (table_.rows() == 0) return;
+  ::worksheet_autofilter(sheet_, kHeadingRow, 0, lastRow(), columnNumber(columns_.size() - 1));
+  // Numbers of documents are texts on purpose; no sheet has to warn of them.
+  std::string texts;
+  for (std::size_t i = 0; i < columns_.size(); ++i)
+    if (described(i).kind == SheetColumn::Kind::Text)
+      texts += (texts.empty() ? "" : " ") + range(i);
+  if (!texts.empty())
+    ::worksheet_ignore_errors(sheet_, LXW_IGNORE_NUMBER_STORED_AS_TEXT, texts.c_str());
 }
 
 void TableWriter::writeRow(std::size_t row) {
@@ -284,18 +297,6 @@ void TableWriter::setWidths() const {
     ::worksheet_set_column_pixels(sheet_, columnNumber(i), columnNumber(i),
                                   static_cast<std::uint32_t>(std::min(points, kWidest)), nullptr);
   }
-}
-
-void TableWriter::setUpFilter() const {
-  if (table_.rows() == 0) return;
-  ::worksheet_autofilter(sheet_, kHeadingRow, 0, lastRow(), columnNumber(columns_.size() - 1));
-  // Numbers of documents are texts on purpose; no sheet has to warn of them.
-  std::string texts;
-  for (std::size_t i = 0; i < columns_.size(); ++i)
-    if (described(i).kind == SheetColumn::Kind::Text)
-      texts += (texts.empty() ? "" : " ") + range(i);
-  if (!texts.empty())
-    ::worksheet_ignore_errors(sheet_, LXW_IGNORE_NUMBER_STORED_AS_TEXT, texts.c_str());
 }
 
 }  // namespace

@@ -1,0 +1,180 @@
+#include <clocale>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tests/sheet/sheet_world.h"
+
+namespace korvantes::office {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+namespace fs = std::filesystem;
+
+std::string contents(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void put(const fs::path& file, const std::string& text) {
+  std::ofstream(file, std::ios::binary) << text;
+}
+
+/// The largest file that this process may write, meanwhile: a full disk for one file.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(std::uintmax_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit limit = before_;
+    limit.rlim_cur = bytes;
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signal_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*signal_)(int);
+};
+
+TEST(SpreadsheetFile, IsNotTouchedWhenItCannotBeReplaced) {
+  SheetWorld world;
+  world.addRow({"A/1"});
+  const fs::path folder = world.folder.file("");
+  fs::create_directory(folder / "carpeta");
+  put(folder / "protegido", "viejo");
+  fs::permissions(folder / "protegido", fs::perms::owner_read);
+  put(folder / "abierto", "viejo");
+  const int opened = ::open((folder / "abierto").c_str(), O_RDWR);
+  ASSERT_EQ(::flock(opened, LOCK_SH), 0);
+  ::mkfifo((folder / "tubo").c_str(), 0600);
+  fs::create_symlink("nada/nada", folder / "enlace");
+
+  const struct {
+    fs::path target;
+    const char* words;
+  } targets[] = {
+      {folder / "nada" / "x.xlsx", "No existe la carpeta"},
+      {folder / "enlace", "No existe la carpeta"},
+      {folder / "protegido" / "x.xlsx", "No existe la carpeta"},
+      {folder / "carpeta", "es una carpeta"},
+      {folder / "protegido", "está protegido contra escritura"},
+      {folder / "abierto", "está abierto en otro programa"},
+      {folder / "tubo", "no es un fichero corriente"},
+      {folder / std::string(255, 'n').append("n"), "el nombre es demasiado largo"},
+  };
+  for (const auto& each : targets) {
+    world.target = each.target;
+    EXPECT_THAT(world.failureOfList(), HasSubstr(each.words));
+  }
+  ::close(opened);
+  EXPECT_EQ(world.rowsWritten, std::nullopt);
+  EXPECT_EQ(contents(folder / "protegido") + contents(folder / "abierto"), "viejoviejo");
+  EXPECT_THAT(world.filesInFolder(),
+              ElementsAre("abierto", "carpeta", "enlace", "protegido", "tubo"));
+}
+
+TEST(SpreadsheetFile, IsWholeOrTheOldOneWhereverTheDiskIsFull) {
+  SheetWorld world;
+  for (int row = 0; row < 200; ++row)
+    world.addRow({"A/" + std::to_string(row), "2026-06-30", "Cliente", "", "10,00"});
+  world.exportList();
+  const std::uintmax_t whole = fs::file_size(*world.target);
+
+  int failures = 0, successes = 0;
+  for (std::uintmax_t limit = 512; successes < 3; limit += 512) {
+    put(*world.target, "viejo");
+    std::string failure;
+    {
+      const FileSizeLimit full(limit);
+      failure = world.failureOfList();
+    }
+    ASSERT_THAT(world.filesInFolder(), ElementsAre("hoja.xlsx")) << limit;
+    if (failure.empty()) {
+      // Times in it may pack a little shorter or longer.
+      EXPECT_NEAR(static_cast<double>(fs::file_size(*world.target)), static_cast<double>(whole), 16)
+          << limit;
+      ++successes;
+    } else {
+      EXPECT_THAT(failure, HasSubstr("No se ha podido escribir " + world.target->string() + ": "));
+      EXPECT_EQ(contents(*world.target), "viejo");
+      ++failures;
+    }
+  }
+  EXPECT_GT(failures, 50);
+  EXPECT_THAT(world.read(), HasSubstr("\"A/199\""));
+}
+
+TEST(SpreadsheetFile, ReplacesAnOldOneAndKeepsItsPermissionsAndLink) {
+  SheetWorld world;
+  const fs::path file = world.folder.file("fichero.xlsx");
+  put(file, "viejo");
+  fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  fs::create_symlink("fichero.xlsx", *world.target);
+  world.exportList();
+  EXPECT_TRUE(fs::is_symlink(*world.target));
+  EXPECT_EQ(fs::status(file).permissions(),
+            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  EXPECT_THAT(world.read(), HasSubstr("\"Imp.Comision\""));
+}
+
+TEST(SpreadsheetFile, IsNotThereWhenTheUserThinksBetterOfIt) {
+  SheetWorld world;
+  world.target.reset();
+  EXPECT_EQ(world.failureOfList(), "");
+  EXPECT_EQ(world.suggested, "Albaranes de la liquidación.xlsx");
+  EXPECT_EQ(world.rowsWritten, std::nullopt);
+  EXPECT_THAT(world.filesInFolder(), IsEmpty());
+}
+
+TEST(SpreadsheetFile, HasPointsInItsNumbersWhateverTheLanguage) {
+  SheetWorld world;
+  world.addRow({"A/1", "", "", "", "1,25"});
+  const std::string locales = world.folder.file("");
+  put(locales + "comas",
+      "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \".\"\ngrouping 3\nEND "
+      "LC_NUMERIC\n");
+  const std::string command =
+      "localedef --no-archive -c -i " + locales + "comas " + locales + "xx_XX 2>/dev/null";
+  if (std::system(command.c_str()) < 0) GTEST_SKIP();
+  ::setenv("LOCPATH", locales.c_str(), 1);
+  if (std::setlocale(LC_NUMERIC, "xx_XX") == nullptr) GTEST_SKIP() << "no localedef";
+  world.exportList();
+  EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+  std::setlocale(LC_NUMERIC, "C");
+  ::unsetenv("LOCPATH");
+  EXPECT_THAT(world.read(), HasSubstr("| 1.25 [#,##0.00]"));
+}
+
+TEST(FolderSheetOutlet, GivesEachExportAFileOfItsOwn) {
+  SheetWorld world;
+  world.addRow({"A/1"});
+  std::vector<std::string> told;
+  const auto outlet = std::make_shared<FolderSheetOutlet>(
+      std::make_shared<OutputFolder>(world.folder.file("salida")),
+      [&](const fs::path& file, std::size_t rows) {
+        told.push_back(file.filename().string() + " " + std::to_string(rows));
+      });
+  for (int i = 0; i < 2; ++i) Spreadsheet(outlet).call("LISTTOEXCEL", {&world.list});
+  EXPECT_THAT(told, ElementsAre("Albaranes de la liquidación.xlsx 1",
+                                "Albaranes de la liquidación-2.xlsx 1"));
+}
+
+}  // namespace
+
+}  // namespace korvantes::office

@@ -1,0 +1,182 @@
+#include <gmock/gmock.h>
+
+#include "office/sheet/cell_format.h"
+#include "office/sheet/exact_sum.h"
+#include "outside/ado/error.h"
+#include "tests/sheet/sheet_world.h"
+
+namespace korvantes::office {
+
+namespace {
+
+using ado::Date;
+using ado::Decimal;
+using ado::FieldType;
+using ado::Variant;
+using ::testing::HasSubstr;
+
+ado::Recordset result(std::vector<ado::FieldDefinition> fields, std::vector<Variant> cells) {
+  return {std::make_shared<const std::vector<ado::FieldDefinition>>(std::move(fields)),
+          std::move(cells)};
+}
+
+ado::Recordset settlements() {
+  return result({{"Lca_Id", FieldType::Integer},
+                 {"Age_Nom", FieldType::VarChar, 50},
+                 {"Lca_Fecha", FieldType::Date},
+                 {"Lca_Base", FieldType::Currency, 0, 4},
+                 {"Comision", FieldType::Double},
+                 {"Porcentaje", FieldType::Numeric, 0, 2},
+                 {"Albaran", FieldType::VarChar},
+                 {"Cobrada", FieldType::Boolean},
+                 {"Foto", FieldType::LongVarBinary}},
+                {7,
+                 "Peña",
+                 Date{2026, 6, 30},
+                 Decimal::money(1234567891),
+                 0.1,
+                 Decimal(350, 2),
+                 "A/12",
+                 true,
+                 ado::Bytes(3),  //
+                 8,
+                 "Núñez",
+                 Date{1899, 1, 2},
+                 Decimal::money(-1000),
+                 0.2,
+                 Variant(),
+                 Variant(),
+                 false,
+                 Variant(),  //
+                 9,
+                 Variant(),
+                 Variant(),
+                 Variant(),
+                 Variant(),
+                 Decimal(0, 2),
+                 "A/13",
+                 Variant(),
+                 Variant()});
+}
+
+TEST(GridToExcel, WritesTheVisibleColumnsInTheirFormats) {
+  SheetWorld world;
+  ado::Recordset rows = settlements();
+  world.grid.DataSource(rows);
+  world.grid.Columns(0).Visible = false;
+  const char* const captions[] = {"", "Agente", "Fecha", "Base", "Comision", "  %", "Albaran"};
+  for (std::size_t i = 1; i <= 6; ++i) world.grid.Columns(i).Caption = captions[i];
+  world.grid.Columns(1).Width = 6900;
+  world.grid.Columns(3).NumberFormat = "##,##0.00 ";
+  world.grid.Columns(4).NumberFormat = "0.00";
+  world.grid.Columns(5).NumberFormat = "#0.00";
+  world.grid.Columns(5).TextAlignment = screen::Alignment::Center;
+  world.grid.Columns(6).NumberFormat = "#,##0.00 ";
+  rows.MoveLast();
+  int moves = 0;
+  rows.onMoveComplete([&] { ++moves; });
+
+  world.sheets.set("sTitulo", Variant("Informe"));
+  world.exportGrid(rows);
+
+  EXPECT_EQ(rows.position(), 2U);
+  EXPECT_EQ(moves, 0);
+  EXPECT_EQ(world.suggested, "Informe.xlsx");
+  EXPECT_EQ(world.read("--columnas"),
+            R"(Listado | Informe | KORVANTES
+A4 | A3:H6 | landscape | 9 | None | 0 | $1:$3
+66 left | 14 left | 14 right | 14 right | 14 center | 14 left | 14 left | 14 None
+"Informe" |  |  |  |  |  |  | 
+ |  |  |  |  |  |  | 
+"Agente" | "Fecha" | "Base" | "Comision" | "  %" | "Albaran" | "Cobrada" | "Foto"
+"Peña" | 30/06/2026 [dd/mm/yyyy] | 123456.7891 [#,##0.00" "] | 0.1 [0.00] | 3.5 [0.00] | "A/12" | True | 
+"Núñez" | "02/01/1899" | -0.1 [#,##0.00" "] | 0.2 [0.00] |  |  | False | 
+ |  |  |  | 0 [0.00] | "A/13" |  | 
+ |  |  |  |  |  |  | 
+"Total" |  | =SUBTOTAL(109,C4:C6) -> 123456.6891 [#,##0.00" "] | =SUBTOTAL(109,D4:D6) -> 0.3 [0.00] |  |  |  | 
+)");
+}
+
+TEST(GridToExcel, TakesTheFieldsWhereTheGridIsBoundToSomethingElse) {
+  SheetWorld world;
+  const ado::Recordset rows = settlements();
+  for (const bool bound : {false, true}) {
+    if (bound) world.grid.DataSource(result({{"Otro", FieldType::Integer}}, {1}));
+    world.exportGrid(rows);
+    EXPECT_THAT(world.read(), HasSubstr("\"Lca_Id\" | \"Age_Nom\" | \"Lca_Fecha\""));
+    EXPECT_THAT(world.read(), HasSubstr("7 | \"Peña\" | 30/06/2026 [dd/mm/yyyy] | 123456.7891"));
+  }
+}
+
+TEST(GridToExcel, RefusesMoreRowsThanASheetHasBeforeItAsksForAFile) {
+  SheetWorld world;
+  const ado::Recordset rows =
+      result({{"n", FieldType::Integer}}, std::vector<Variant>(1'048'571, Variant(1)));
+  try {
+    world.exportGrid(rows);
+    FAIL();
+  } catch (const ado::Error& error) {
+    EXPECT_THAT(error.what(), HasSubstr("admite 1048570 filas y el listado tiene 1048571"));
+  }
+  EXPECT_EQ(world.suggested, "");
+}
+
+TEST(Spreadsheet, RefusesOtherMembersAndArgumentsInWords) {
+  SheetWorld world;
+  ado::Recordset closed;
+  const Argument list = &world.list, grid = &world.grid, rows = settlements();
+  const Argument none = static_cast<screen::Control*>(nullptr);
+  const struct {
+    const char* method;
+    std::vector<Argument> arguments;
+    const char* words;
+  } calls[] = {
+      {"ListToWord", {list}, "no tiene el miembro «ListToWord»"},
+      {"ListToExcel", {}, "espera una lista"},
+      {"ListToExcel", {grid}, "espera una lista"},
+      {"ListToExcel", {none}, "espera una lista"},
+      {"GridToExcel", {grid, rows}, "espera un conjunto de registros"},
+      {"GridToExcel", {rows, list}, "espera una cuadrícula"},
+      {"GridToExcel", {Argument(closed), grid}, "está cerrado"},
+  };
+  for (const auto& each : calls) {
+    try {
+      world.sheets.call(each.method, each.arguments);
+      ADD_FAILURE() << each.words;
+    } catch (const ado::Error& error) {
+      EXPECT_THAT(error.what(), HasSubstr(each.words));
+    }
+  }
+  EXPECT_THROW(world.sheets.set("sTitle", Variant("x")), ado::Error);
+  EXPECT_EQ(world.suggested, "");
+}
+
+TEST(CellFormat, FollowsTheMask) {
+  const struct {
+    const char *mask, *code;
+  } masks[] = {{"0.00", "0.00"},
+               {"##0.00 ", "0.00\" \""},
+               {"#,###,##0.00", "#,##0.00"},
+               {"000000", "000000"},
+               {"#,##0", "#,##0"},
+               {"0.0#", "0.0#"},
+               {"€ 0.00", "\"€ \"0.00"},
+               {"", ""},
+               {"0 %", "0\" %\""}};
+  for (const auto& each : masks) EXPECT_EQ(numberFormat(each.mask).code, each.code) << each.mask;
+}
+
+TEST(ExactSum, AddsDecimalsNotBinaryFractions) {
+  ExactSum cents;
+  for (int i = 0; i < 1'000'000; ++i) cents.add(0.01);
+  cents.add(Decimal(-1, 18));
+  cents.add(Decimal(1, 18));
+  EXPECT_EQ(cents.value(), 10000.0);
+  ExactSum large;
+  for (const double each : {1e14, 0.05, -1e14, 1e300, -1e300}) large.add(each);
+  EXPECT_EQ(large.value(), 0.05);
+}
+
+}  // namespace
+
+}  // namespace korvantes::office
