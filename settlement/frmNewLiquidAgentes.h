@@ -77,6 +77,7 @@ class frmNewLiquidAgentes : public screen::Form {
   /// The checks before a save, in their order. False when one has ended it.
   bool compruebaLiquidacion();
   bool confirmaAgente();
+  bool confirmaAlbaranesOcultos();
   /// Steps of a save inside its transaction. Give the new settlement's number.
   std::int32_t escribeLiquidacion(plindor::BaseDatos& oDb);
   void borraLiquidacionAnterior(ado::Connection& conexion);

@@ -19,6 +19,7 @@ constexpr const char* kUltimaLca = "Select max(Lca_id) from Lca";
 constexpr const char* kMarcaCav = "Update Cav set Cav_IdLca = ";
 constexpr const char* kWhereCav = "where cav_id = ";
 
+constexpr const char* kAlbaranesDe = "Select Lcd_IdCav from Lcd where Lcd_IdLca = ";
 constexpr const char* kLiquidacionDe = "Select Lcd_IdLca from Lcd where Lcd_IdCav = ";
 
 constexpr const char* kSalto = "\r\n";
@@ -57,18 +58,16 @@ void frmNewLiquidAgentes::cmdGrabar_Click() {
 }
 
 void frmNewLiquidAgentes::msGrabarLiquidacion() {
-  if (!compruebaLiquidacion()) return;
-
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
   const std::int32_t nLiquiAnterior = nLiqui;
   Transaccion transaccion(oDb->Conexion());
   std::int32_t nNueva = 0;
   try {
+    if (!compruebaLiquidacion()) return;
     transaccion.empieza();
-    if (nLiqui > 0) {
-      borraLiquidacionAnterior(oDb->Conexion());
-      nLiqui = 0;
-    }
+    // What was never on the screen is not removed.
+    if (nLiqui > 0 && bCargada) borraLiquidacionAnterior(oDb->Conexion());
+    nLiqui = 0;
     if (hayMarcadas()) nNueva = escribeLiquidacion(*oDb);
     transaccion.confirma();
   } catch (const std::exception& fallo) {
@@ -108,7 +107,7 @@ bool frmNewLiquidAgentes::compruebaLiquidacion() {
   if (!dia) return rechaza("Es necesario introducir una fecha valida para la liquidacion");
   if (ado::Moment{*dia, 0} > screen::Desktop::current().now())
     return rechaza("La fecha de la liquidacion no puede ser superior a la actual");
-  return !hayMarcadas() || confirmaAgente();
+  return (!hayMarcadas() || confirmaAgente()) && (!bCargada || confirmaAlbaranesOcultos());
 }
 
 // The list belongs to the agent that was searched or loaded, while F1 can put another one on the
@@ -129,6 +128,23 @@ bool frmNewLiquidAgentes::confirmaAgente() {
              sTituloForm) == screen::Answer::Yes;
 }
 
+// A delivery note that has lost its invoice or its customer belongs to the settlement, but the list
+// cannot show it, and the save keeps what is listed.
+bool frmNewLiquidAgentes::confirmaAlbaranesOcultos() {
+  const std::size_t nAlbaranes =
+      mdoKORVANTES::Conexion().Execute(kAlbaranesDe + std::to_string(nLiqui)).RecordCount();
+  if (nAlbaranes <= ListView1.Count()) return true;
+  Tag = "e";
+  return screen::MsgBox(
+             "Albaranes de la liquidación que no aparecen en la lista, porque han perdido su "
+             "factura o su cliente: " +
+                 std::to_string(nAlbaranes - ListView1.Count()) +
+                 ". Al guardarla dejarán de estar en ella, y los importes quedarán como se ven. "
+                 "¿Desea guardarla así?",
+             screen::style::Exclamation | screen::style::YesNo | screen::style::DefaultSecond,
+             sTituloForm) == screen::Answer::Yes;
+}
+
 bool frmNewLiquidAgentes::hayMarcadas() const {
   for (std::size_t row = 0; row < ListView1.Count(); ++row)
     if (ListView1.item(row).Checked) return true;
@@ -141,7 +157,7 @@ void frmNewLiquidAgentes::borraLiquidacionAnterior(ado::Connection& conexion) {
   conexion.Execute(kBorraLcd + sLiqui);
   long long nBorradas = 0;
   conexion.Execute(kBorraLca + sLiqui, &nBorradas);
-  if (bCargada && nBorradas == 0)
+  if (nBorradas == 0)
     throw FalloAlGrabar("La liquidación " + sLiqui + " ya no existe:",
                         "otro usuario la ha cambiado o eliminado. Cierre y vuelva a buscarla.");
 }

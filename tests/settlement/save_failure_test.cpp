@@ -91,22 +91,25 @@ TEST(SettlementSaveFailure, WhateverCallFailsAStoredSettlementIsReplacedLaterNev
   }
 }
 
-TEST(SettlementSaveFailure, ARollbackThatFailsTooDoesNotHideTheFirstError) {
-  World world;
-  world.show([&](Screen& screen) {
-    screen.search("5", false, false);
-    screen.type(2, "24112026");
-    screen.tick(screen.rowOf(1));
-    world.connection->failAt(2, ado::Error(13, kWords));
-    world.connection->refuseRollback = true;
-    screen.click("cmdGrabar");
-    ASSERT_EQ(world.messages.size(), 1U);
-    EXPECT_THAT(world.messages[0],
-                AllOf(StartsWith("[16] KORVANTES | Error registrando liquidacion:\r\n"),
-                      HasSubstr(kWords), HasSubstr("sin conexión")));
-    world.connection->refuseRollback = false;
-    world.connection->RollbackTrans();
-  });
+TEST(SettlementSaveFailure, ARollbackIsTriedTwiceAndDoesNotHideTheFirstError) {
+  for (int refusals : {1, 2}) {
+    World world;
+    world.show([&](Screen& screen) {
+      screen.search("5", false, false);
+      screen.type(2, "24112026");
+      screen.tick(screen.rowOf(1));
+      world.connection->failAt(2, ado::Error(13, kWords));
+      world.connection->rollbackRefusals = refusals;
+      screen.click("cmdGrabar");
+      const std::string lost =
+          refusals == 1 ? "" : "\r\nTampoco se han podido deshacer los cambios: sin conexión";
+      EXPECT_THAT(world.messages,
+                  ElementsAre("[16] KORVANTES | Error registrando liquidacion:\r\n" +
+                              std::string(kWords) + lost));
+      EXPECT_EQ(world.connection->inTransaction(), refusals == 2);
+      if (refusals == 2) world.connection->RollbackTrans();
+    });
+  }
 }
 
 TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {

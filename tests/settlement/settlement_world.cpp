@@ -112,7 +112,12 @@ World::World()
   desktop.clock = ado::Moment{{2026, 11, 24}, 12 * 3600};
   desktop.onMessage = [this](const screen::MessageBox& box) {
     messages.push_back("[" + std::to_string(box.style) + "] " + box.title + " | " + box.text);
-    return screen::HeadlessDesktop::Reply<screen::Answer>{box.defaultAnswer()};
+    screen::Answer answer = box.defaultAnswer();
+    if (box.yesNo() && !answers.empty()) {
+      answer = answers.front();
+      answers.pop_front();
+    }
+    return screen::HeadlessDesktop::Reply<screen::Answer>{answer};
   };
   desktop.whileShown = [this](screen::Form& form) { users_.back()(form); };
   real_->BeginTrans();

@@ -1,6 +1,7 @@
 // A settlement screen on a small real database, with a test as its user.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <list>
 #include <memory>
@@ -43,9 +44,9 @@ struct Screen {
 class Link : public support::FaultyConnection {
  public:
   using FaultyConnection::FaultyConnection;
-  bool refuseRollback = false;
+  int rollbackRefusals = 0;  ///< how many of the next ones it refuses
   void RollbackTrans() override {
-    if (refuseRollback) throw ado::Error(14, "sin conexión");
+    if (rollbackRefusals-- > 0) throw ado::Error(14, "sin conexión");
     FaultyConnection::RollbackTrans();
   }
 };
@@ -72,6 +73,8 @@ class World {
   std::shared_ptr<Link> connection;
   /// Message boxes since the last clear: "[16] title | text".
   std::vector<std::string> messages;
+  /// How the user answers the next questions; the default button when there is none left.
+  std::deque<screen::Answer> answers;
 
  private:
   support::TemporaryFolder folder_;

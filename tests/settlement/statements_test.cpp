@@ -2,14 +2,12 @@
 #include <gmock/gmock.h>
 
 #include "data/commission_rule.h"
-#include "outside/office/objects.h"
 #include "tests/settlement/settlement_world.h"
 
 namespace korvantes::settlement {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 const std::string kPending =
@@ -113,7 +111,8 @@ TEST(SettlementStatements, ReplacingASettlementRemovesItAndWritesANewOne) {
       old);
   EXPECT_THAT(
       world.connection->calls(),
-      ElementsAre("BeginTrans", "Update Cav set Cav_IdLca = Null where Cav_IdLca = " + sOld,
+      ElementsAre("Select Lcd_IdCav from Lcd where Lcd_IdLca = " + sOld, "BeginTrans",
+                  "Update Cav set Cav_IdLca = Null where Cav_IdLca = " + sOld,
                   "delete from Lcd where Lcd_IdLca=" + sOld, "delete from Lca where Lca_Id=" + sOld,
                   StartsWith("INSERT INTO Lca ("), "Select max(Lca_id) from Lca",
                   StartsWith("INSERT INTO Lcd ("),
@@ -137,76 +136,6 @@ TEST(SettlementStatements, UntickingAllRowsOfASettlementOnlyRemovesIt) {
   EXPECT_THAT(world.messages,
               ElementsAre("[64] KORVANTES | Proceso de liquidacion de comisiones a agentes "
                           "concluido satisfactoriamente"));
-}
-
-/// Keeps what the screen asks of the report object.
-struct Report : office::Object {
-  std::vector<std::string>& log;
-  std::string failure;
-  Report(std::vector<std::string>& journal, std::string words)
-      : log(journal), failure(std::move(words)) {}
-  void set(std::string_view property, const office::Argument& value) override {
-    const auto* service = std::get_if<std::shared_ptr<plindor::BaseDatos>>(&value);
-    log.push_back(std::string(property) + (service != nullptr && *service ? " set" : " missing"));
-  }
-  ado::Variant call(std::string_view method,
-                    const std::vector<office::Argument>& arguments) override {
-    if (!failure.empty()) throw ado::Error(1, failure);
-    std::string line(method);
-    for (const office::Argument& argument : arguments) {
-      const auto& value = std::get<ado::Variant>(argument);
-      line += value.kind() == ado::VariantKind::Text ? " | " + value.text()
-                                                     : " | " + std::to_string(value.whole());
-    }
-    log.push_back(line);
-    return {};
-  }
-};
-
-TEST(SettlementStatements, PrintingHandsTheStoredSettlementToTheReport) {
-  World world;
-  std::vector<std::string> log;
-  world.desktop.objects().add("marzenes.MZPrint",
-                              [&] { return std::make_unique<Report>(log, ""); });
-  world.show([&](Screen& screen) {
-    screen.search("5", false, false);
-    screen.type(2, "24112026");
-    screen.tick(screen.rowOf(1));
-    screen.click("Check3");
-    screen.click("cmdGrabar");
-    EXPECT_EQ(screen.list().Count(), 0U);
-  });
-  const std::string number =
-      std::to_string(world.sql("select Lca_Id from Lca").cell(0, 0).asLong());
-  EXPECT_THAT(log, ElementsAre("MyBd set",
-                               "ShowReport | 11 | select age_id,age_nom,age_nif,lca.* from lca "
-                               "inner join age on lca_idag=age_id  Where lca_id = " +
-                                   number + " | 0"));
-  EXPECT_THAT(world.messages, IsEmpty());
-}
-
-TEST(SettlementStatements, AReportThatFailsLeavesTheSettlementStoredOnceAndTheScreenEmpty) {
-  for (const std::string failure : {"", "sin papel"}) {
-    World world;
-    std::vector<std::string> log;
-    if (!failure.empty())
-      world.desktop.objects().add("marzenes.MZPrint",
-                                  [&] { return std::make_unique<Report>(log, failure); });
-    world.show([&](Screen& screen) {
-      screen.search("5", false, false);
-      screen.type(2, "24112026");
-      screen.tick(screen.rowOf(1));
-      screen.click("Check3");
-      screen.click("cmdGrabar");
-      EXPECT_EQ(screen.list().Count(), 0U);
-      EXPECT_EQ(screen.text(10).Text(), "");
-    });
-    EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
-    ASSERT_EQ(world.messages.size(), 1U);
-    EXPECT_THAT(world.messages[0], StartsWith("[48] KORVANTES | La liquidacion se ha guardado, "
-                                              "pero no se ha podido imprimir:\r\n"));
-    EXPECT_THAT(world.messages[0], testing::HasSubstr(failure));
-  }
 }
 
 }  // namespace

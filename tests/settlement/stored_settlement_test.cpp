@@ -53,6 +53,46 @@ TEST(StoredSettlement, OneThatIsGoneLeavesTheScreenEmptyAndUsable) {
   EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
 }
 
+TEST(StoredSettlement, LosesANoteWithoutInvoiceOnlyOnceTheUserHasSaidSo) {
+  for (bool agrees : {false, true}) {
+    World world;
+    const int number = world.settle({1, 2});
+    world.sql("delete from Fav where Fav_Id = 2");
+    const auto before = world.stored();
+    if (agrees) world.answers = {screen::Answer::Yes};
+    world.show(
+        [&](Screen& screen) {
+          EXPECT_EQ(screen.list().Count(), 1U);
+          screen.click("cmdGrabar");
+          EXPECT_EQ(screen.form.nLiqui, agrees ? 0 : number);
+        },
+        number);
+    ASSERT_EQ(world.messages.size(), agrees ? 2U : 1U);
+    EXPECT_THAT(world.messages[0],
+                testing::AllOf(testing::StartsWith("[308] Liquidación de comisiones a agentes | "),
+                               testing::HasSubstr("su factura o su cliente: 1.")));
+    if (agrees)
+      EXPECT_TRUE(world.sql("select Cav_IdLca from Cav where Cav_Id = 2").cell(0, 0).isNull());
+    else
+      EXPECT_EQ(world.stored(), before);
+    EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), agrees ? 1U : 2U);
+  }
+}
+
+TEST(StoredSettlement, OneThatCannotBeShownIsNotRemovedByWhatIsSavedInItsPlace) {
+  World world;
+  world.sql("INSERT INTO Lca (Lca_IdAg) VALUES (99)");
+  world.show(
+      [&](Screen& screen) {
+        screen.search("5", false, false);
+        screen.type(2, "24112026");
+        screen.tick(screen.rowOf(1));
+        screen.click("cmdGrabar");
+      },
+      1);
+  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 2U);
+}
+
 TEST(StoredSettlement, NullsShowAsEmptyFieldsAndUntickedFilters) {
   World world;
   world.sql("INSERT INTO Lca (Lca_IdAg) VALUES (6)");

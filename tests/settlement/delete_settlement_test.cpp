@@ -1,0 +1,112 @@
+#include <gmock/gmock.h>
+
+#include "tests/settlement/settlement_world.h"
+
+namespace korvantes::settlement {
+namespace {
+
+using screen::Answer;
+using support::FaultyConnection;
+using testing::ElementsAre;
+
+constexpr const char* kFirst =
+    "[308] Liquidación de comisiones a agentes | Desea eliminar la liquidación actual";
+constexpr const char* kSecond =
+    "[276] Liquidación de comisiones a agentes | Confirma que desea eliminar la liquidación actual";
+constexpr const char* kDone = "[64] Liquidación de comisiones a agentes | Liquidación eliminada ";
+constexpr const char* kFailed =
+    "[16] Liquidación de comisiones a agentes | Error eliminando liquidación: \r\n";
+constexpr const char* kOwnError = "Error definido por la aplicación o el objeto";
+constexpr const char* kGone =
+    "La liquidación 1 ya no existe: otro usuario la ha cambiado o "
+    "eliminado.";
+
+/// Deletes the settlement and holds the screen against what it promises: closed whatever happens.
+void deleteWithTwoYes(World& world, Screen& screen) {
+  world.messages.clear();
+  world.answers = {Answer::Yes, Answer::Yes};
+  screen.click("cmdBorrar");
+  EXPECT_FALSE(screen.form.loaded());
+  EXPECT_FALSE(world.connection->inTransaction());
+}
+
+TEST(SettlementDeletion, WhateverCallFailsAllOrNothingIsDeleted) {
+  for (const auto when : {FaultyConnection::When::Before, FaultyConnection::When::After}) {
+    World world;
+    world.settle({3});
+    const auto untouched = world.stored();
+    const int number = world.settle({1, 4});
+    const auto before = world.stored();
+    bool deleted = false;
+    for (std::size_t n = 1; !deleted; ++n) {
+      SCOPED_TRACE("call " + std::to_string(n));
+      ASSERT_LT(n, 9U);
+      world.show(
+          [&](Screen& screen) {
+            world.connection->failAt(n, ado::Error(13, "disco lleno"), when);
+            deleteWithTwoYes(world, screen);
+          },
+          number);
+      const bool failed = world.connection->failed();
+      const bool ofService = n > 1 && n < 5;
+      EXPECT_THAT(world.messages, ElementsAre(kFirst, kSecond,
+                                              !failed     ? std::string(kDone)
+                                              : ofService ? std::string(kFailed) + kOwnError
+                                                          : std::string(kFailed) + "disco lleno"));
+      // The deletion is done all the same when only the answer of its commit was lost.
+      deleted = !failed || (n == 5 && when == FaultyConnection::When::After);
+      EXPECT_EQ(world.stored(), deleted ? untouched : before);
+    }
+    EXPECT_THAT(world.connection->calls(),
+                ElementsAre("BeginTrans", "UPDATE Cav SET Cav_IdLca = Null WHERE Cav_IdLca = 2",
+                            "DELETE FROM Lcd WHERE Lcd_IdLca=2", "DELETE FROM Lca WHERE Lca_Id=2",
+                            "CommitTrans"));
+  }
+}
+
+TEST(SettlementDeletion, OneThatAnotherUserHasReplacedOrDeletedIsToldApart) {
+  for (bool replaced : {true, false}) {
+    World world;
+    const int number = world.settle({1});
+    world.show(
+        [&](Screen& screen) {
+          world.show(
+              [&](Screen& other) {
+                if (replaced)
+                  other.click("cmdGrabar");
+                else
+                  deleteWithTwoYes(world, other);
+              },
+              number);
+          const auto before = world.stored();
+          deleteWithTwoYes(world, screen);
+          EXPECT_EQ(world.stored(), before);
+        },
+        number);
+    EXPECT_THAT(world.messages, ElementsAre(kFirst, kSecond, std::string(kFailed) + kGone));
+    EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), replaced ? 1U : 0U);
+  }
+}
+
+TEST(SettlementDeletion, OfOneWithoutNotesOrInATransactionOfAnotherIsTold) {
+  World world;
+  world.sql("INSERT INTO Lca (Lca_IdAg) VALUES (6)");
+  world.show(
+      [&](Screen& screen) {
+        world.connection->BeginTrans();
+        world.answers = {Answer::Yes, Answer::Yes};
+        screen.click("cmdBorrar");
+        EXPECT_FALSE(screen.form.loaded());
+        EXPECT_TRUE(world.connection->inTransaction()) << "not ours to undo";
+        EXPECT_EQ(world.messages.size(), 3U);
+        EXPECT_THAT(world.messages.back(), testing::StartsWith(kFailed));
+        world.connection->RollbackTrans();
+      },
+      1);
+  world.show([&](Screen& screen) { deleteWithTwoYes(world, screen); }, 1);
+  EXPECT_EQ(world.messages.back(), kDone);
+  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
+}
+
+}  // namespace
+}  // namespace korvantes::settlement
