@@ -61,14 +61,16 @@ std::size_t byteOffset(std::string_view text, std::size_t index) {
   return at;
 }
 
+char32_t nextCharacter(std::string_view text, std::size_t& at) {
+  const Decoded next = decode(text, at);
+  at += next.length;
+  return next.character;
+}
+
 std::u32string toCodePoints(std::string_view text) {
   std::u32string characters;
   characters.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    const Decoded next = decode(text, at);
-    characters += next.character;
-    at += next.length;
-  }
+  for (std::size_t at = 0; at < text.size();) characters += nextCharacter(text, at);
   return characters;
 }
 
