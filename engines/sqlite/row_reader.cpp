@@ -19,7 +19,13 @@ ado::Bytes bytesAt(sqlite3_stmt* row, int column) {
   return {bytes, bytes + sqlite3_column_bytes(row, column)};
 }
 
-ado::Variant valueAt(sqlite3_stmt* row, int column, const tsql::Type& type) {
+bool isText(const ado::Variant* value, std::string_view text) {
+  return value != nullptr && value->kind() == ado::Variant::Kind::Text && value->text() == text;
+}
+
+/// `above` is the value of the same column in the row before, if there is one.
+ado::Variant valueAt(sqlite3_stmt* row, int column, const tsql::Type& type,
+                     const ado::Variant* above) {
   if (sqlite3_column_type(row, column) == SQLITE_NULL) return {};
   switch (type.kind) {
     case tsql::TypeKind::Bit:
@@ -36,8 +42,11 @@ ado::Variant valueAt(sqlite3_stmt* row, int column, const tsql::Type& type) {
       return *date;
     }
     case tsql::TypeKind::VarChar:
-    case tsql::TypeKind::Char:
-      return std::string(textAt(row, column));
+    case tsql::TypeKind::Char: {
+      const std::string_view text = textAt(row, column);
+      if (isText(above, text)) return *above;
+      return std::string(text);
+    }
     case tsql::TypeKind::VarBinary:
       return bytesAt(row, column);
     case tsql::TypeKind::Null:
@@ -57,7 +66,11 @@ ado::Recordset readRows(Statement& statement, const tsql::CompiledStatement& com
     if (cells.empty()) cells.reserve(compiled.types.size() * kExpectedRows);
     for (int column = 0; column < columns; ++column) {
       const auto& type = compiled.types[static_cast<std::size_t>(column)];
-      cells.push_back(valueAt(statement.raw(), column, type));
+      // What joins repeat from row to row (names above all) is kept once.
+      const ado::Variant* above = cells.size() < compiled.types.size()
+                                      ? nullptr
+                                      : &cells[cells.size() - compiled.types.size()];
+      cells.push_back(valueAt(statement.raw(), column, type, above));
     }
   }
   return {compiled.fields, std::move(cells), std::move(writer)};

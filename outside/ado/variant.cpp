@@ -1,7 +1,9 @@
 #include "outside/ado/variant.h"
 
+#include <atomic>
 #include <cmath>
 #include <limits>
+#include <memory>
 
 #include "outside/ado/error.h"
 
@@ -53,34 +55,105 @@ std::int64_t wholeHalfToEven(const Decimal& number) {
 
 }  // namespace
 
+/// A value and the number of those who hold it.
+template <typename Value>
+struct Variant::Shared {
+  explicit Shared(Value v) : value(std::move(v)) {}
+  const Value value;
+  std::atomic<std::size_t> owners{1};
+};
+
+namespace {
+
+template <typename Shared>
+void share(Shared* shared) {
+  shared->owners.fetch_add(1, std::memory_order_relaxed);
+}
+
+/// The last owner takes the value with it.
+template <typename Shared>
+void release(Shared* shared) {
+  if (shared->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+    const std::unique_ptr<Shared> last(shared);
+  }
+}
+
+}  // namespace
+
+Variant::Variant(std::string value)
+    : payload_{.text = std::make_unique<Shared<std::string>>(std::move(value)).release()},
+      kind_(Kind::Text) {}
+
+Variant::Variant(Bytes value)
+    : payload_{.bytes = std::make_unique<Shared<ado::Bytes>>(std::move(value)).release()},
+      kind_(Kind::Bytes) {}
+
+void Variant::share() const {
+  if (kind_ == Kind::Text) {
+    ado::share(payload_.text);
+  } else {
+    ado::share(payload_.bytes);
+  }
+}
+
+void Variant::release() const {
+  if (kind_ == Kind::Text) {
+    ado::release(payload_.text);
+  } else {
+    ado::release(payload_.bytes);
+  }
+}
+
 bool Variant::boolean() const {
-  if (const auto* value = std::get_if<bool>(&value_)) return *value;
-  refuse(kind(), nameOf(Kind::Boolean));
+  if (kind_ == Kind::Boolean) return payload_.whole != 0;
+  refuse(kind_, nameOf(Kind::Boolean));
 }
 
 std::int64_t Variant::whole() const {
-  if (const auto* value = std::get_if<std::int64_t>(&value_)) return *value;
-  refuse(kind(), nameOf(Kind::Whole));
+  if (kind_ == Kind::Whole) return payload_.whole;
+  refuse(kind_, nameOf(Kind::Whole));
 }
 
-const Decimal& Variant::decimal() const {
-  if (const auto* value = std::get_if<ado::Decimal>(&value_)) return *value;
-  refuse(kind(), nameOf(Kind::Decimal));
+Decimal Variant::decimal() const {
+  if (kind_ == Kind::Decimal) return {payload_.whole, scale_};
+  refuse(kind_, nameOf(Kind::Decimal));
 }
 
-const Date& Variant::date() const {
-  if (const auto* value = std::get_if<ado::Date>(&value_)) return *value;
-  refuse(kind(), nameOf(Kind::Date));
+Date Variant::date() const {
+  if (kind_ == Kind::Date) return {payload_.day.year, payload_.day.month, payload_.day.day};
+  refuse(kind_, nameOf(Kind::Date));
 }
 
 const std::string& Variant::text() const {
-  if (const auto* value = std::get_if<std::string>(&value_)) return *value;
-  refuse(kind(), nameOf(Kind::Text));
+  if (kind_ == Kind::Text) return payload_.text->value;
+  refuse(kind_, nameOf(Kind::Text));
 }
 
 const Bytes& Variant::bytes() const {
-  if (const auto* value = std::get_if<ado::Bytes>(&value_)) return *value;
-  refuse(kind(), nameOf(Kind::Bytes));
+  if (kind_ == Kind::Bytes) return payload_.bytes->value;
+  refuse(kind_, nameOf(Kind::Bytes));
+}
+
+bool operator==(const Variant& a, const Variant& b) {
+  if (a.kind_ != b.kind_) return false;
+  switch (a.kind_) {
+    case Variant::Kind::Null:
+      return true;
+    case Variant::Kind::Boolean:
+    case Variant::Kind::Whole:
+      return a.payload_.whole == b.payload_.whole;
+    case Variant::Kind::Double:
+      return a.payload_.number == b.payload_.number;
+    case Variant::Kind::Decimal:
+      return a.decimal() == b.decimal();
+    case Variant::Kind::Date:
+      return a.date() == b.date();
+    case Variant::Kind::Text:
+      return a.text() == b.text();
+    case Variant::Kind::Bytes:
+      return a.bytes() == b.bytes();
+  }
+  return false;
 }
 
 double Variant::asDouble() const {
@@ -90,7 +163,7 @@ double Variant::asDouble() const {
     case Kind::Whole:
       return static_cast<double>(whole());
     case Kind::Double:
-      return std::get<double>(value_);
+      return payload_.number;
     case Kind::Decimal:
       return decimal().toDouble();
     default:
@@ -112,7 +185,7 @@ std::int32_t Variant::asLong() const {
       number = wholeHalfToEven(decimal());
       break;
     case Kind::Double: {
-      const double rounded = std::nearbyint(std::get<double>(value_));  // half to even
+      const double rounded = std::nearbyint(payload_.number);  // half to even
       // Written so that NaN is refused as well.
       if (!(rounded >= static_cast<double>(kSmallest) &&
             rounded <= static_cast<double>(kLargest))) {
@@ -135,7 +208,7 @@ bool Variant::asBoolean() const {
     case Kind::Whole:
       return whole() != 0;
     case Kind::Double:
-      return std::get<double>(value_) != 0;
+      return payload_.number != 0;
     case Kind::Decimal:
       return decimal().units() != 0;
     default:
