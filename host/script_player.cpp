@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "host/office_objects.h"
 #include "host/script_actions.h"
 
 namespace korvantes::host {
@@ -33,8 +34,9 @@ ScriptPlayer::ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens sc
       screens_(std::move(screens)),
       transcript_(out),
       answers_(transcript_),
-      pictures_(stage, transcript_, std::move(folder)),
+      pictures_(stage, transcript_, folder),
       run_{stage, base, screens_, transcript_, answers_, pictures_} {
+  offerDocumentsInFolder(stage_.desktop().objects(), std::move(folder), transcript_);
   const auto answer = [this](const auto& dialog) {
     const auto reply = answers_.answer(dialog);
     pictures_.dialogShown();
@@ -51,6 +53,7 @@ ScriptPlayer::ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens sc
 
 ScriptPlayer::~ScriptPlayer() {
   stage_.follow({});
+  withdrawDocuments(stage_.desktop().objects());
   screen::Desktop::makeCurrent(formerDesktop_);
 }
 

@@ -18,7 +18,7 @@ namespace korvantes::host {
 /// script has ended is closed.
 class ScriptPlayer {
  public:
-  /// Pictures go to `folder`, where their names name none.
+  /// Reports, spreadsheets and pictures go to `folder`, pictures only where their names name none.
   ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens screens, std::ostream& out,
                std::filesystem::path folder = {});
   ~ScriptPlayer();

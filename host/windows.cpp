@@ -5,6 +5,7 @@
 #include "host/desktop_window.h"
 #include "host/display.h"
 #include "host/failure.h"
+#include "host/office_windows.h"
 #include "host/version.h"
 #include "host/window_stage.h"
 
@@ -31,6 +32,7 @@ void runDesktop(const CommandLine& line) {
   desktop::QtDesktop desktop;
   if (line.regional) desktop.regional(*line.regional);
   desktop.version(kVersion);
+  offerDocumentsOnWindows(desktop);
   // Before the desktop goes, no screen may look for it any more.
   struct Current {
     explicit Current(screen::Desktop& desktop) { screen::Desktop::makeCurrent(&desktop); }
