@@ -1,7 +1,111 @@
 #include "agents/frmAgentes.h"
 
+#include <initializer_list>
+
+#include "agents/fields.h"
+#include "component/mdoKORVANTES.h"
+#include "outside/screen/desktop.h"
+#include "outside/screen/user_input.h"
+
 namespace korvantes {
 
-frmAgentes::frmAgentes() : Form("frmAgentes") {}
+using namespace agents;
+
+namespace {
+
+template <class T>
+screen::ControlArray<T> arrayOf(screen::Form& form, const char* name,
+                                std::initializer_list<int> indexes) {
+  screen::ControlArray<T> controls(form, name);
+  for (int index : indexes) controls.add(index);
+  return controls;
+}
+
+}  // namespace
+
+frmAgentes::frmAgentes()
+    : Form("frmAgentes"),
+      Label1(
+          arrayOf<screen::Label>(*this, "Label1", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 21, 23})),
+      txtFields(arrayOf<screen::TextBox>(*this, "txtFields", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10})) {
+  layOut();
+  wire();
+}
+
+void frmAgentes::wire() {
+  for (const auto& [number, box] : txtFields.all()) {
+    const int index = number;
+    box->GotFocus = [this, index] { txtFields_GotFocus(index); };
+    box->KeyPress = [this, index](int& character) { txtFields_KeyPress(index, character); };
+    box->Change = [this, index] { txtFields_Change(index); };
+    box->LostFocus = [this, index] { txtFields_LostFocus(index); };
+  }
+  cboProvincias.Click = [this] { cboProvincias_Click(); };
+  dboOper.KeyUp = [this](int& keyCode, int) { teclaSoltada(keyCode); };
+  cmdNuevo.Click = [this] { cmdNuevo_Click(); };
+  cmdCancelar.Click = [this] { cmdCancelar_Click(); };
+  cmdSalvar.Click = [this] { cmdSalvar_Click(); };
+  cmdSalir.Click = [this] { cmdSalir_Click(); };
+  cmdImagen.Click = [this] { cmdImagen_Click(); };
+  cmdGuardarImagen.Click = [this] { cmdGuardarImagen_Click(); };
+}
+
+void frmAgentes::Form_Load() {
+  oUtil = std::make_unique<plindor::UtilFormulario>();
+  oUtil->ColorFoco = 65535;
+  oUtil->ColorNormal = 16777215;
+  oUtil->Conexion(mdoKORVANTES::Conexion());
+  cargaListas();
+  msCargaAgentes();
+  nIdAgente = 0;
+}
+
+void frmAgentes::Form_Unload() {
+  oUtil.reset();
+}
+
+void frmAgentes::Form_KeyUp(int& keyCode, int /*shift*/) {
+  teclaSoltada(keyCode);
+}
+
+// A key of the grid comes here twice, by way of the form and then of the grid: what was done is
+// used up, or Enter would move two fields on and F1 open its list again.
+void frmAgentes::teclaSoltada(int& keyCode) {
+  switch (keyCode) {
+    case screen::key::Enter:
+      keyCode = 0;
+      if (Tag().empty()) screen::SendKeys("\t");
+      break;
+    case screen::key::Escape:
+      keyCode = 0;
+      Unload();
+      break;
+    case screen::key::KeypadDecimal:
+      keyCode = screen::key::Comma;
+      break;
+    case screen::key::F1:
+      keyCode = 0;
+      msBuscarPorNombre();
+      break;
+    default:
+      break;
+  }
+  Tag = "";
+}
+
+void frmAgentes::cmdNuevo_Click() {
+  msEstadoPantalla(AgenteNuevo);
+  txtFields(kNombre).SetFocus();
+}
+
+void frmAgentes::cmdCancelar_Click() {
+  msEstadoPantalla(Consulta);
+  msPosicionAgente(0, true);
+  txtFields(kCodigo).SetFocus();
+}
+
+void frmAgentes::cmdSalir_Click() {
+  Unload();
+}
 
 }  // namespace korvantes
