@@ -88,10 +88,11 @@ void Canvas::cells(double y, double height, Face face, std::span<const Column> c
 void Canvas::labelledCells(double y, double height, Face face, std::span<const Column> columns,
                            std::span<const QString> texts) {
   double x = 0;
-  for (const Column& column : columns) {
-    text(QRectF(x, y, column.width, height), Face::Note, QString::fromUtf8(column.caption),
-         Align::Left, Ink::Grey);
-    x += column.width;
+  for (std::size_t column = 0; column < columns.size(); ++column) {
+    const double digits = sheet_->face(face).width(texts[column]) / sheet_->across() + kPadding;
+    text(QRectF(x, y, columns[column].width - digits, height), Face::Note,
+         QString::fromUtf8(columns[column].caption), Align::Right, Ink::Grey);
+    x += columns[column].width;
   }
   cells(y, height, face, columns, texts);
 }

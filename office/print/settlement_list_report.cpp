@@ -1,5 +1,6 @@
 #include "office/print/settlement_list_report.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "office/print/settlement_list_layout.h"
@@ -61,7 +62,9 @@ void SettlementListReport::writeAgent(PageFlow& flow, const ListedAgent& agent, 
     // What comes below the settlement's last row and must not stand alone at the top of a page.
     const double sums =
         kSettlementTotal + (last ? kAgentTotal : 0) + (last && lastAgent ? kGrandTotal : 0);
-    flow.keep((first ? kAgent : 0) + kSettlement + kRow + (settlement.rows.size() == 1 ? sums : 0));
+    const std::size_t opening = std::min(settlement.rows.size(), kOpeningRows);
+    flow.keep((first ? kAgent : 0) + kSettlement + static_cast<double>(opening) * kRow +
+              (opening == settlement.rows.size() ? sums : 0));
     if (first) writeAgentHeading(flow, agent, "");
     open.agent = &agent;
     writeSettlementHeading(flow, settlement, "");
@@ -71,7 +74,7 @@ void SettlementListReport::writeAgent(PageFlow& flow, const ListedAgent& agent, 
       writeInvoice(flow, row);
     }
     open.settlement = nullptr;
-    writeSums(flow, kSettlementTotal, "Total " + numberOf(settlement), settlement.sums);
+    writeSums(flow, kSettlementTotal, "Total liquidación " + numberOf(settlement), settlement.sums);
   }
   open.agent = nullptr;
   const ado::Variant& code =
@@ -135,6 +138,7 @@ void SettlementListReport::writeSums(PageFlow& flow, double height, const QStrin
                              texts_.amount(sums.withholding.value()),
                              texts_.amount(sums.total.value()),
                              texts_.amount(sums.commissions.value())};
+    if (height == kGrandTotal) canvas.band(wholeLine(y, height));
     canvas.rule(y, height == kSettlementTotal ? Ink::Rule : Ink::Black);
     canvas.labelledCells(y, height, Face::NoteStrong, kSums, texts);
   });

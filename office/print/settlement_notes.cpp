@@ -48,7 +48,8 @@ constexpr const char* kTables =
 constexpr const char* kFilter = "WHERE Lcd_IdLca = ";
 
 constexpr const char* kOrder =
-    " ORDER BY CASE WHEN Fav_Id IS NULL THEN 1 ELSE 0 END,Fav_Fecha,Fav_Serie,Fav_Numero,Fav_Id,"
+    " ORDER BY CASE WHEN Cav_Id IS NULL THEN 2 WHEN Fav_Id IS NULL THEN 1 ELSE 0 END,"
+    "Fav_Fecha,Fav_Serie,Fav_Numero,Fav_Id,"
     "Cav_Serie,Cav_Numero,Lcd_IdCav";
 
 bool isBlank(const ado::Variant& text) {

@@ -24,7 +24,7 @@ struct SettledNote {
 };
 
 /// The statement that gives the delivery notes of a settlement, those of one invoice together,
-/// those without an invoice last.
+/// those without an invoice last, and behind them those that are gone.
 std::string notesStatement(std::int64_t settlement);
 
 /// A row of that statement's result, from 0.

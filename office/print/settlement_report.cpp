@@ -110,9 +110,11 @@ void SettlementReport::writeNotes(PageFlow& flow) const {
   };
   const auto continuation = [this, &flow] {
     flow.line(kContinuation, [&](Canvas& canvas, double y) {
-      canvas.text(QRectF(0, y, kPageWidth, kContinuation), Face::Strong,
-                  QString::fromStdString(title()) + " · " + texts_.text(settlement_->agentName) +
-                      " (continuación)");
+      const double name = kPageWidth - kContinuedWidth;
+      canvas.text(QRectF(0, y, name, kContinuation), Face::Strong,
+                  QString::fromStdString(title()) + " · " + texts_.text(settlement_->agentName));
+      canvas.text(QRectF(name, y, kContinuedWidth, kContinuation), Face::Text, "(continuación)",
+                  Align::Right);
     });
   };
   flow.atTop([=] {

@@ -6,8 +6,8 @@ namespace korvantes::office::settlement_layout {
 
 /// Millimetres. The widths of a table add up to kPageWidth.
 constexpr Column kNotes[] = {
-    {"Factura", 25, Align::Left},   {"Fecha", 18, Align::Left},    {"Albarán", 25, Align::Left},
-    {"Cliente", 55, Align::Left},   {"Importe", 22, Align::Right}, {"% Com.", 13, Align::Right},
+    {"Factura", 24, Align::Left},   {"Fecha", 18, Align::Left},    {"Albarán", 24, Align::Left},
+    {"Cliente", 57, Align::Left},   {"Importe", 22, Align::Right}, {"% Com.", 13, Align::Right},
     {"Comisión", 22, Align::Right},
 };
 /// Subtotals: what they are of, in front of the columns of amounts.
@@ -16,7 +16,7 @@ constexpr Column kSubtotals[] = {
 
 constexpr double kTitle = 10, kContinuation = 6, kCaptions = 5.5;
 constexpr double kRow = 4.7, kSubtotal = 5.2, kGrandTotal = 6, kRemark = 4.4, kFact = 5;
-constexpr double kGap = 4, kSmallGap = 1.5;
+constexpr double kGap = 4, kSmallGap = 1.5, kContinuedWidth = 25;
 
 /// The head: the agent on the left, the settlement's facts on the right.
 constexpr double kAgentLabel = 16, kAgentText = 92, kFactLabel = 28, kFactText = 44;
