@@ -88,6 +88,7 @@ class TableWriter {
   const SheetTable& table_;
   std::string title_;
   std::vector<Column> columns_;
+  lxw_format* totalCaption_ = nullptr;
 };
 
 void TableWriter::describe() const {
@@ -104,12 +105,16 @@ void TableWriter::describe() const {
 lxw_format* TableWriter::aligned(const SheetColumn& column) const {
   lxw_format* format = workbook_.newFormat();
   // A screen's numbers stand to the left where nobody said otherwise; a sheet's line up.
-  if (column.alignment == Alignment::Center)
+  if (column.alignment == Alignment::Center) {
     ::format_set_align(format, LXW_ALIGN_CENTER);
-  else if (column.alignment == Alignment::Right || column.kind == SheetColumn::Kind::Number)
+  } else if (column.kind == SheetColumn::Kind::Number) {
     ::format_set_align(format, LXW_ALIGN_RIGHT);
-  else
+  } else if (column.alignment == Alignment::Right) {
+    ::format_set_align(format, LXW_ALIGN_RIGHT);
+    ::format_set_indent(format, 1);  // or it touches the text of the next column
+  } else {
     ::format_set_align(format, LXW_ALIGN_LEFT);
+  }
   return format;
 }
 
@@ -130,6 +135,10 @@ void TableWriter::makeFormats() {
     ::format_set_bold(columns_[i].total);
     ::format_set_top(columns_[i].total, LXW_BORDER_THIN);
   }
+  // Longer than its column, it goes on over the empty ones behind.
+  totalCaption_ = workbook_.newFormat();
+  ::format_set_bold(totalCaption_);
+  ::format_set_top(totalCaption_, LXW_BORDER_THIN);
 }
 
 void TableWriter::setUpPages() const {
@@ -260,7 +269,7 @@ void TableWriter::writeTotalRow(lxw_row_t row, const char* caption, bool ticked)
     } else if (captioned) {
       ::worksheet_write_blank(sheet_, row, columnNumber(i), column.total);
     } else {
-      writeText(row, i, caption, column.total);
+      writeText(row, i, caption, totalCaption_);
       captioned = true;
     }
   }
