@@ -11,11 +11,18 @@ struct DesktopEntry {
   const char* shortcut;
 };
 
-/// Those that are built, in the order in which they are shown.
+/// In the order in which they are shown.
 constexpr DesktopEntry kDesktopEntries[] = {
     {"liquidacion", "&Nueva liquidación",
      "Busca los albaranes pendientes de un agente y liquida sus comisiones.", "liquidacion",
      "Ctrl+N"},
+    {"informe", "&Informe de liquidaciones",
+     "Consulta las liquidaciones guardadas por fechas y agentes; las imprime, las exporta y las "
+     "abre.",
+     "informe", "Ctrl+I"},
+    {"agentes", "&Agentes comerciales",
+     "Da de alta a los agentes y mantiene sus datos, su comisión y su imagen.", "agentes",
+     "Ctrl+A"},
 };
 
 }  // namespace korvantes::host
