@@ -1,0 +1,139 @@
+#include <gmock/gmock.h>
+
+#include "outside/screen/conversions.h"
+#include "report/merged_invoices.h"
+#include "tests/support/recording_connection.h"
+
+namespace korvantes::report {
+namespace {
+
+using testing::ElementsAre;
+
+const ado::Variant kNull;
+const ado::Date kMay{2024, 5, 31}, kJune{2024, 6, 30};
+
+ado::Decimal cents(long long amount) {
+  return ado::Decimal(amount * 100, ado::Decimal::kMoneyScale);
+}
+
+/// A row of the statement by invoice: one delivery note.
+struct Note {
+  int invoice, settlement;
+  ado::Variant commission;
+  ado::Variant gross = cents(10000);
+  ado::Variant date = kMay;
+  int agent = 7;
+  std::string agentName = "Ana Gil", taxNumber = "1Z", customer = "Bar Pepe", number = "A/12   ";
+};
+
+ado::Recordset merged(const std::vector<Note>& notes, bool byDate = true) {
+  std::vector<ado::Variant> cells;
+  for (const Note& note : notes) {
+    const std::vector<ado::Variant> row{note.invoice,
+                                        note.settlement,
+                                        note.agentName,
+                                        note.date,
+                                        note.number,
+                                        kMay,
+                                        note.customer,
+                                        "A",
+                                        12,
+                                        430,
+                                        note.customer,
+                                        note.agent,
+                                        note.taxNumber,
+                                        cents(1),
+                                        cents(2),
+                                        cents(3),
+                                        cents(4),
+                                        note.gross,
+                                        note.commission};
+    cells.insert(cells.end(), row.begin(), row.end());
+  }
+  return facturasDe(
+      support::resultOf(
+          {"Fav_Id", "Lca_Id", "Age_Nom", "Lca_Fecha", "Factura", "Fav_fecha", "Fav_CliNom",
+           "Fav_Serie", "Fav_Numero", "Fav_CliCod", "Fav_CliNom", "Age_Id", "Age_Nif", "Lca_Base",
+           "Lca_Iva", "Lca_Retencion", "Lca_Total", "Fav_Bruto", "Comision"},
+          std::move(cells)),
+      byDate, plindor::UtilFormulario());
+}
+
+/// "settlement: commission percentage" of each row.
+std::vector<std::string> amounts(const ado::Recordset& rows) {
+  std::vector<std::string> lines;
+  const screen::Regional spanish;
+  for (std::size_t row = 0; row < rows.RecordCount(); ++row)
+    lines.push_back(screen::CStr(rows.cell(row, 1), spanish) + ": " +
+                    screen::CStr(rows.cell(row, 8), spanish) + " " +
+                    screen::CStr(rows.cell(row, 9), spanish));
+  return lines;
+}
+
+TEST(MergedInvoices, NeighbouringNotesOfOneInvoiceAgentAndDateBecomeOneRow) {
+  struct Case {
+    const char* name;
+    std::vector<Note> notes;
+    std::vector<std::string> rows;
+  };
+  const ado::Variant ten = cents(10), twenty = cents(20);
+  const Case cases[] = {
+      {"two notes of one settlement, to exact cents",
+       {{1, 5, ten}, {1, 5, twenty}, {2, 5, ten}},
+       {"5: 0,3 0,3", "5: 0,1 0,1"}},
+      {"two settlements of one date", {{1, 5, ten}, {1, 6, twenty}}, {"5: 0,3 0,3"}},
+      {"two settlements of different dates, with nothing in between",
+       {{1, 5, ten}, {1, 6, twenty, cents(10000), kJune}},
+       {"5: 0,1 0,1", "6: 0,2 0,2"}},
+      {"of one date and of none",
+       {{1, 5, ten}, {1, 6, twenty, cents(10000), kNull}, {1, 7, ten, cents(10000), kNull}},
+       {"5: 0,1 0,1", "6: 0,3 0,3"}},
+      {"two agents", {{1, 5, ten}, {1, 6, ten, cents(100), kMay, 8}}, {"5: 0,1 0,1", "6: 0,1 10"}},
+      {"again behind another invoice",
+       {{1, 5, ten}, {2, 5, ten}, {1, 5, ten}},
+       {"5: 0,1 0,1", "5: 0,1 0,1", "5: 0,1 0,1"}},
+      {"no gross base", {{1, 5, ten, cents(0)}, {2, 5, ten, kNull}}, {"5: 0,1 ", "5: 0,1 "}},
+      {"a negative one", {{1, 5, cents(-105), cents(-1000)}}, {"5: -1,05 10,5"}},
+      {"halves of a percentage go up", {{1, 5, cents(1), cents(800)}}, {"5: 0,01 0,13"}},
+      {"notes without lines alone", {{1, 5, kNull}, {1, 5, kNull}}, {"5:  "}},
+      {"first or last among others", {{1, 5, kNull}, {1, 5, ten}, {1, 5, kNull}}, {"5: 0,1 0,1"}},
+  };
+  for (const Case& each : cases) EXPECT_EQ(amounts(merged(each.notes)), each.rows) << each.name;
+}
+
+TEST(MergedInvoices, TextsAreTrimmedAndCutToTheirFieldByCharacters) {
+  Note note{1, 5, cents(10)};
+  for (std::string* text : {&note.agentName, &note.customer, &note.taxNumber}) {
+    text->clear();
+    for (int i = 0; i < 101; ++i) *text += "ñ";
+  }
+  note.customer = "  " + note.customer;
+  const ado::Recordset rows = merged({note});
+  const auto length = [&](const char* name) { return rows.Collect(name).text().size() / 2; };
+  EXPECT_EQ(length("Age_Nom"), 100U);
+  EXPECT_EQ(length("Fav_CliNom"), 100U);
+  EXPECT_EQ(length("Age_Nif"), 20U);
+  EXPECT_EQ(rows.Collect("Factura").text(), "A/12");
+}
+
+TEST(MergedInvoices, TheFieldsStandInTheOrderOfTheStatementOnTheLastRow) {
+  const auto fields = [](const ado::Recordset& rows) {
+    std::string names;
+    for (const ado::FieldDefinition& field : rows.definitions()) names += field.name + " ";
+    return names;
+  };
+  const std::string first = "Fav_Id Lca_Id Age_Nom Lca_Fecha ",
+                    last =
+                        "Fav_Bruto Comision Porcentaje Age_Id Fav_CliCod Lca_Base Fav_Serie "
+                        "Fav_Numero Age_Nif Lca_Iva Lca_Retencion Lca_Total ";
+  const ado::Recordset byDate = merged({{1, 5, cents(10)}, {2, 6, cents(20)}});
+  EXPECT_EQ(fields(byDate), first + "Factura Fav_Fecha Fav_CliNom " + last);
+  EXPECT_EQ(fields(merged({{1, 5, cents(10)}}, false)),
+            first + "Fav_CliNom Factura Fav_Fecha " + last);
+  EXPECT_EQ(byDate.position(), 1U);
+  EXPECT_TRUE(byDate.Collect("Fav_Serie").isNull() && byDate.Collect("Fav_Numero").isNull());
+  EXPECT_FALSE(merged({}).isOpen());
+}
+
+}  // namespace
+}  // namespace korvantes::report

@@ -1,0 +1,37 @@
+// The search of settlements on the small database of the settlement tests, with a test as its user.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "report/frmLiquidAgentes.h"
+#include "tests/settlement/settlement_world.h"
+
+namespace korvantes::report {
+
+/// The open screen, as its user handles it.
+struct SearchScreen {
+  settlement::World& world;
+  frmLiquidAgentes& form;
+
+  template <class T>
+  T& control(const std::string& identity) const {
+    return dynamic_cast<T&>(*form.findControl(identity));
+  }
+  void type(int index, std::string_view text) const;
+  void click(const std::string& identity) const;
+  /// Ticks or unticks the boxes of the shape and takes the order, as far as they are enabled.
+  void choose(Forma forma, bool bPorFecha = true) const;
+  void search() const { click("cmdBuscar"); }
+  /// The cells shown, row after row, joined with " | ".
+  std::vector<std::string> rows() const;
+  bool canPrint() const { return control<screen::PictureButton>("cmdEmision").Enabled(); }
+  bool canExport() const { return control<screen::PictureButton>("cmdExcel").Enabled(); }
+};
+
+/// Opens the screen, lets the user play, closes it.
+void show(settlement::World& world, const std::function<void(SearchScreen&)>& user);
+
+}  // namespace korvantes::report
