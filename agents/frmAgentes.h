@@ -71,6 +71,8 @@ class frmAgentes : public screen::Form {
   void msBuscarPorNombre();
   void msEstadoPantalla(int nModo);
 
+  /// Shows a stored value whole, whatever the filter of its field.
+  void muestra(screen::TextBox& box, const std::string& guardado);
   void seleccionaEntrada(screen::ComboBox& lista, const char* nombre, std::size_t nCaracteres,
                          const ado::Variant& codigo);
 
@@ -86,6 +88,7 @@ class frmAgentes : public screen::Form {
   ado::Recordset rsOper;
   /// Belongs to AlCambiarTexto, which gets it for all fields alike.
   ado::Variant nEstadoCambio;
+  bool bSinFiltro = false;
   std::vector<CodigoSinEntrada> codigosSinEntrada;
 
   // From back to front.

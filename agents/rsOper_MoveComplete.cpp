@@ -40,10 +40,20 @@ void frmAgentes::rsOper_MoveComplete() {
   Frame2.Enabled = true;
   mdoKORVANTES::msCargaImagen(nIdAgente, imgAgente);
   for (const BoundField& field : kFields)
-    txtFields(field.index).Text = screen::CStr(rsOper.Collect(field.column));
+    muestra(txtFields(field.index), screen::CStr(rsOper.Collect(field.column)));
   seleccionaEntrada(cboProvincias, "Provincia", kCifrasProvincia, rsOper.Collect("AGE_PRO"));
   seleccionaEntrada(cboPais, "País", kCifrasPais, rsOper.Collect("AGE_PAI"));
   seleccionaEntrada(cboRegFiscal, "Régimen fiscal", kCaracteresRegimen, rsOper.Collect("AGE_REG"));
+}
+
+// The filter of the field with the focus takes for typing what is stored: "SW1A 2AA" would be saved
+// as "12".
+void frmAgentes::muestra(screen::TextBox& box, const std::string& guardado) {
+  box.Text = guardado;
+  if (box.Text() == guardado) return;
+  bSinFiltro = true;
+  box.Text = guardado;
+  bSinFiltro = false;
 }
 
 void frmAgentes::seleccionaEntrada(screen::ComboBox& lista, const char* nombre,

@@ -42,6 +42,7 @@ void frmAgentes::txtFields_KeyPress(int index, int& character) {
 }
 
 void frmAgentes::txtFields_Change(int index) {
+  if (bSinFiltro) return;
   switch (index) {
     case kCodigo:
     case kCodigoPostal:

@@ -1,0 +1,111 @@
+#include <gmock/gmock.h>
+
+#include "tests/agents/agents_world.h"
+
+namespace korvantes::agents {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+TEST(AgentsOpenCases, NullsShowEmptyAndAnAgentWithoutPercentageIsNotSaved) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.row(2);
+    for (int index = 2; index <= 10; ++index) EXPECT_EQ(screen.field(index).Text(), "") << index;
+    EXPECT_EQ(screen.text("cboProvincias"), "01 - Araba");
+    EXPECT_EQ(screen.text("cboPais"), "001 - País");
+    EXPECT_EQ(screen.text("cboRegFiscal"), "01 - General");
+    screen.click("cmdSalvar");
+    EXPECT_THAT(world.messages, ElementsAre("[16] Agentes | Error, Debe especificar un valor en % "
+                                            "Comisión"));
+  });
+}
+
+TEST(AgentsOpenCases, WithFewerThanTenCountriesTheFirstShows) {
+  World world;
+  world.sql("delete from Vespara.dbo.PAIS where PAIS_COD > 33");
+  world.sql("delete from Age");
+  world.show([&](Screen& screen) {
+    EXPECT_EQ(screen.text("cboPais"), "001 - País");
+    EXPECT_FALSE(screen.control("Frame2").Enabled());
+    EXPECT_EQ(screen.form.nIdAgente, 0);
+  });
+  EXPECT_THAT(world.messages, ElementsAre());
+}
+
+TEST(AgentsOpenCases, WithoutTheSharedDatabaseAgentsAreSeenAndNothingIsWrittenOverThem) {
+  for (const char* table : {"vespara.dbo.PROV", "vespara.dbo.PAIS", "Vespara.dbo.situaciones"}) {
+    World world;
+    const auto before = world.stored();
+    world.connection->onStatement = [&](std::string_view statement) {
+      if (statement.find(table) != std::string_view::npos) throw ado::Error(14, "sin conexión");
+    };
+    world.show([&](Screen& screen) {
+      EXPECT_THAT(world.messages, ElementsAre(HasSubstr("sin conexión")));
+      screen.row(1);
+      EXPECT_EQ(screen.field(1).Text(), "Luc Roy");
+      screen.click("cmdSalvar");
+      EXPECT_THAT(world.messages.back(), testing::StartsWith("[16]  | No hay ningún valor en la "));
+    });
+    EXPECT_EQ(world.stored(), before) << table;
+  }
+}
+
+TEST(AgentsOpenCases, CodesThatAreInNoListAreToldBeforeTheyAreReplaced) {
+  World world;
+  world.sql("update Age set AGE_PRO = '60', AGE_PAI = 999 where AGE_ID = 3");
+  const auto before = world.stored();
+  world.answer = screen::Answer::No;
+  world.show([&](Screen& screen) {
+    screen.row(0);
+    screen.desktop.user().selectEntry(screen.control<screen::ComboBox>("cboProvincias"), 2);
+    screen.click("cmdSalvar");
+    EXPECT_THAT(world.messages, ElementsAre("[48] Agentes | El agente tiene códigos que no están "
+                                            "en las listas. Si confirma la entrada:\r\nPaís 999 "
+                                            "pasará a ser «001 - País»",
+                                            HasSubstr("Confirma la entrada de datos")));
+  });
+  EXPECT_EQ(world.stored(), before);
+}
+
+TEST(AgentsOpenCases, ATypedRegimeIsTakenByItsFirstTwoCharacters) {
+  struct Case {
+    const char *typed, *stored, *message;
+  };
+  const Case cases[] = {
+      {"7", "7", ""},
+      {"01 General", "1", ""},
+      {"Exento", "2", "Régimen fiscal: «Exento» no empieza por un código."},
+      {"-1", "2", "Régimen fiscal: «-1» no empieza por un código."},
+      {"", "2", "No hay ningún valor en la lista «Régimen fiscal»"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.typed);
+    World world;
+    world.show([&](Screen& screen) {
+      screen.row(0);
+      screen.desktop.user().typeEntry(screen.control<screen::ComboBox>("cboRegFiscal"), each.typed);
+      screen.click("cmdSalvar");
+      EXPECT_THAT(world.messages.back(), HasSubstr(each.message));
+    });
+    EXPECT_EQ(world.sql("select AGE_REG from Age where AGE_ID = 3").cell(0, 0),
+              ado::Variant(std::stoi(each.stored)));
+  }
+}
+
+TEST(AgentsOpenCases, AStoredValueIsNotShortenedWhenItIsShownInTheFieldWithTheFocus) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.desktop.onList = [](const screen::ListDialog& dialog) {
+      EXPECT_EQ(dialog.rows[2].name, "Luc Roy");
+      return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{2};
+    };
+    screen.desktop.user().moveFocus(screen.field(4));
+    screen.desktop.stroke(*screen::keyNamed("F1"));
+    EXPECT_EQ(screen.field(4).Text(), "SW1A 2AA");
+  });
+}
+
+}  // namespace
+}  // namespace korvantes::agents
