@@ -57,7 +57,9 @@ void writePdf(const Report& report, const std::filesystem::path& file) {
     report.setUp(writer);
     report.paint(writer);
   }
+  // On commit Qt takes no notice of what it fails to write only then.
   errno = 0;
+  if (!replacement.flush() && replacement.failure() == 0) fail(file, errno != 0 ? errno : EIO);
   if (replacement.failure() != 0) fail(file, replacement.failure());
   if (!replacement.commit()) fail(file, errno != 0 ? errno : EIO);
 }

@@ -1,0 +1,111 @@
+#include "tests/print/print_world.h"
+
+#include <cstdio>
+#include <sstream>
+#include <stdexcept>
+
+#include "office/print/folder_report_outlet.h"
+#include "office/print/mz_print.h"
+
+namespace korvantes::office {
+
+PrintWorld::PrintWorld() {
+  screen::Desktop::makeCurrent(&desktop);
+  desktop.regional(screen::Regional::named("es-ES"));
+  desktop.clock = ado::Moment{{2026, 11, 24}, 0};
+  outlet = std::make_shared<FolderReportOutlet>(
+      std::make_shared<OutputFolder>(out_.file("")),
+      [this](int number, std::size_t rows, const std::filesystem::path& file) {
+        delivered.push_back({number, rows, file});
+      });
+  sql("INSERT INTO Age (AGE_ID, AGE_NOM, AGE_NIF) VALUES (7, 'Núñez e Hijos', '12345678Z')");
+}
+
+PrintWorld::~PrintWorld() {
+  screen::Desktop::makeCurrent(nullptr);
+}
+
+void PrintWorld::invoice(int invoice) {
+  const std::string key = std::to_string(invoice);
+  sql("INSERT INTO Fav (Fav_Id, Fav_Serie, Fav_Numero, Fav_Fecha, Fav_CliNom) VALUES (" + key +
+      ", 'F', " + key + ", '01/10/2026', 'Cliente de factura')");
+}
+
+void PrintWorld::note(int note, int invoice, const std::string& amount,
+                      const std::string& percent) {
+  const std::string key = std::to_string(note);
+  sql("INSERT INTO Cav (Cav_Id, Cav_Serie, Cav_Numero, Cav_NFiscal, Cav_Dto1, Cav_DTO2, "
+      "Cav_IdFactura) VALUES (" +
+      key + ", 'A', " + key + ", 'Cliente " + key + "', 0, 0, " + std::to_string(invoice) + ")");
+  sql("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) VALUES (" + key + ", " + key +
+      ", " + amount + ", " + percent + ")");
+}
+
+int PrintWorld::settle(const std::vector<int>& notes, const std::string& amounts) {
+  sql("INSERT INTO Lca (Lca_IdAg, Lca_Fecha, Lca_HFecha, Lca_Cob, Lca_NCob, Lca_Base, Lca_PorIva, "
+      "Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total, Lca_Obs) VALUES (7, " +
+      amounts + ")");
+  const int number =
+      database_.connection()->Execute("SELECT MAX(Lca_Id) FROM Lca").Fields(0).Value().asLong();
+  for (const int each : notes)
+    sql("INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (" + std::to_string(number) + ", " +
+        std::to_string(each) + ")");
+  return number;
+}
+
+std::unique_ptr<Object> PrintWorld::component() {
+  return std::make_unique<MZPrint>(outlet);
+}
+
+std::unique_ptr<Object> PrintWorld::print() {
+  auto object = component();
+  object->set("MyBd", std::make_shared<plindor::BaseDatos>(database_.connection()));
+  return object;
+}
+
+std::string PrintWorld::settlementText(int number) {
+  const std::string statement =
+      "select age_id,age_nom,age_nif,lca.* from lca inner join age on lca_idag=age_id  Where "
+      "lca_id = " +
+      std::to_string(number);
+  print()->call("ShowReport", {ado::Variant(11), ado::Variant(statement), ado::Variant(0)});
+  return text();
+}
+
+std::string PrintWorld::text() const {
+  if (delivered.empty()) throw std::logic_error("no report was delivered");
+  const std::string order =
+      "pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() + "' -";
+  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(order.c_str(), "r"), pclose);
+  std::string read;
+  char piece[4096];
+  while (const std::size_t size = fread(piece, 1, sizeof piece, pipe.get()))
+    read.append(piece, size);
+  return read;
+}
+
+std::string lineWith(const std::string& text, const std::string& part) {
+  const std::size_t place = text.find(part);
+  if (place == std::string::npos) return "";
+  const std::size_t start = text.rfind('\n', place) + 1;
+  std::istringstream words(text.substr(start, text.find('\n', place) - start));
+  std::string line, word;
+  while (words >> word) line += (line.empty() ? "" : " ") + word;
+  return line;
+}
+
+std::string amountText(long cents) {
+  std::string euros = std::to_string(cents / 100);
+  for (std::size_t place = euros.size(); place > 3;) euros.insert(place -= 3, ".");
+  return euros + "," + std::to_string(100 + cents % 100).substr(1);
+}
+
+std::size_t count(const std::string& text, const std::string& part) {
+  std::size_t found = 0;
+  for (std::size_t place = text.find(part); place != std::string::npos;
+       place = text.find(part, place + part.size()))
+    ++found;
+  return found;
+}
+
+}  // namespace korvantes::office

@@ -1,0 +1,62 @@
+// Reports over a small real database, read back as the text of their PDF.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "office/outlets.h"
+#include "office/output_folder.h"
+#include "outside/office/objects.h"
+#include "outside/plindor/base_datos.h"
+#include "outside/screen/headless_desktop.h"
+#include "tests/support/temporary_database.h"
+
+namespace korvantes::office {
+
+/// Agent 7, "Núñez e Hijos", and a desktop with Spanish settings on 24/11/2026. Keys of notes,
+/// invoices and lines are what the tests say.
+class PrintWorld {
+ public:
+  PrintWorld();
+  ~PrintWorld();
+
+  void sql(const std::string& statement) { database_.connection()->Execute(statement); }
+  /// Delivery note A/`note` on invoice F/`invoice` of 01/10/2026, with one line.
+  void note(int note, int invoice, const std::string& amount, const std::string& percent);
+  void invoice(int invoice);
+  /// A settlement over notes; gives its number. Further columns come as "name=value".
+  int settle(const std::vector<int>& notes, const std::string& amounts);
+
+  /// The report component as a form uses it, without and with the database.
+  std::unique_ptr<Object> component();
+  std::unique_ptr<Object> print();
+  /// Report 11 of a settlement, as the text of its PDF; a form feed behind each page.
+  std::string settlementText(int number);
+
+  std::string file(const std::string& name) const { return out_.file(name); }
+  /// The text of the newest PDF.
+  std::string text() const;
+
+  struct Delivered {
+    int number;
+    std::size_t rows;
+    std::filesystem::path file;
+  };
+  std::vector<Delivered> delivered;
+  screen::HeadlessDesktop desktop;
+  std::shared_ptr<ReportOutlet> outlet;
+
+ private:
+  support::TemporaryDatabase database_;
+  support::TemporaryFolder out_;
+};
+
+/// The line of a text that holds `part`, its blanks squeezed into one each; empty without.
+std::string lineWith(const std::string& text, const std::string& part);
+/// How often it stands there.
+std::size_t count(const std::string& text, const std::string& part);
+/// "1.234,56" of cents that are not negative.
+std::string amountText(long cents);
+
+}  // namespace korvantes::office

@@ -1,0 +1,133 @@
+#include <gmock/gmock.h>
+#include <random>
+#include <regex>
+
+#include "tests/print/print_world.h"
+#include "tests/support/recording_connection.h"
+
+namespace korvantes::office {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(SettlementReport, ShowsTheSettlementAsItIsStored) {
+  PrintWorld world;
+  world.invoice(11);
+  world.note(1, 11, "10.05", "7.5");
+  world.sql("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) VALUES (2, 1, 20.05, 7.5)");
+  world.sql("UPDATE Cav SET Cav_Dto1 = 10, Cav_DTO2 = 5, Cav_NFiscal = 'Peña, S.A.'");
+  const int number = world.settle(
+      {1}, "'24/11/2026', '31/10/2026', 1, 0, 1.93, 21, 0.41, 15, 0.29, 2.05, 'Pagar por banco'");
+  const std::string text = world.settlementText(number);
+
+  EXPECT_EQ(lineWith(text, "Nº"), "Liquidación de comisiones Nº 1");
+  EXPECT_EQ(lineWith(text, "Agente"), "Agente 7 Núñez e Hijos Fecha 24/11/2026");
+  EXPECT_EQ(lineWith(text, "NIF"), "NIF 12345678Z Facturas hasta 31/10/2026");
+  EXPECT_THAT(text, HasSubstr("Cobradas"));
+  EXPECT_EQ(lineWith(text, "F/11"), "F/11 01/10/2026 A/1 Peña, S.A. 25,74 7,50 1,93");
+  EXPECT_EQ(lineWith(text, "Suma de"), "Suma de 1 albarán 25,74 1,93");
+  EXPECT_EQ(lineWith(text, "Base"), "Base de comisiones 1,93");
+  EXPECT_EQ(lineWith(text, "IVA"), "Más IVA 21,00 % 0,41");
+  EXPECT_EQ(lineWith(text, "retención"), "Menos retención 15,00 % 0,29");
+  EXPECT_EQ(lineWith(text, "Total"), "Total de la liquidación 2,05");
+  EXPECT_THAT(text, HasSubstr("Pagar por banco"));
+  EXPECT_EQ(lineWith(text, "Página"), "Liquidación 1 · Impreso el 24/11/2026 Página 1 de 1");
+  EXPECT_THAT(text, Not(HasSubstr("ha cambiado")));
+  EXPECT_EQ(world.delivered.back().file, world.file("liquidacion_1.pdf"));
+}
+
+TEST(SettlementReport, ShowsTwoThousandNotesToTheCent) {
+  constexpr int kNotes = 2000;
+  PrintWorld world;
+  std::mt19937 dice(2026);
+  std::vector<int> notes;
+  std::vector<std::string> rows;
+  long net = 0, commission = 0;
+  for (int note = 1; note <= kNotes; ++note) {
+    const long cents = 100 + static_cast<long>(dice() % 1'000'000);
+    // 7,5 %, to four decimals and then to cents.
+    const long part = ((cents * 75 + 5) / 10 + 50) / 100;
+    world.invoice(note);
+    world.note(note, note, std::to_string(cents) + " / 100.0", "7.5");
+    const std::string number = std::to_string(note);
+    rows.push_back("F/" + number + " 01/10/2026 A/" + number + " Cliente " + number + " " +
+                   amountText(cents) + " % " + amountText(part));
+    notes.push_back(note);
+    net += cents;
+    commission += part;
+  }
+  const std::string base = std::to_string(commission) + " / 100.0";
+  const int number =
+      world.settle(notes, "Null, Null, 0, 1, " + base + ", 0, 0, 0, 0, " + base + ", Null");
+  const std::string text = world.settlementText(number);
+
+  EXPECT_EQ(world.delivered.back().rows, notes.size());
+  const std::regex percent(R"( \d+,\d\d (?=\S+$))");
+  for (const std::string& row : rows) {
+    const std::string shown = lineWith(text, row.substr(0, row.find(' ')) + " ");
+    ASSERT_EQ(std::regex_replace(shown, percent, " % "), row);
+  }
+  EXPECT_EQ(lineWith(text, "Suma de"),
+            "Suma de 2000 albaranes " + amountText(net) + " " + amountText(commission));
+  EXPECT_EQ(lineWith(text, "Total"), "Total de la liquidación " + amountText(commission));
+  EXPECT_THAT(text, Not(HasSubstr("ha cambiado")));
+  const std::size_t pages = count(text, "\f");
+  EXPECT_EQ(count(text, " de " + std::to_string(pages) + "\n"), pages);
+  EXPECT_GE(count(text, "Albarán"), pages - 1);
+}
+
+TEST(SettlementReport, ShowsWhatTimeHasLeftOfASettlement) {
+  PrintWorld world;
+  world.invoice(11);
+  world.note(1, 11, "100", "5");
+  world.note(2, 11, "-33.33", "5");
+  world.note(3, 99, "10", "1");
+  world.note(4, 99, "10", "1");
+  world.sql("DELETE FROM Lav WHERE Lav_Id = 4");
+  world.sql("UPDATE Cav SET Cav_NFiscal = ' ' WHERE Cav_Id = 1");
+  const std::string name = "Representaciones " + std::string(83, 'W');
+  world.sql("UPDATE Cav SET Cav_NFiscal = '" + name + "' WHERE Cav_Id = 2");
+  world.sql("UPDATE Age SET AGE_NOM = '" + name + "'");
+  const int number =
+      world.settle({1, 2, 3, 4, 77}, "Null, Null, 0, 0, 5, 21, 1.05, 0, 0, 6.05, ''");
+  const std::string text = world.settlementText(number);
+
+  EXPECT_EQ(lineWith(text, "A/1"), "F/11 01/10/2026 A/1 Cliente de factura 100,00 5,00 5,00");
+  EXPECT_THAT(lineWith(text, "A/2"), HasSubstr("W… -33,33 5,01 -1,67"));
+  EXPECT_EQ(lineWith(text, "Factura F/11"), "Factura F/11: 2 albaranes 66,67 3,33");
+  EXPECT_EQ(lineWith(text, "A/3"), "sin factura A/3 Cliente 3 10,00 1,00 0,10");
+  EXPECT_EQ(lineWith(text, "A/4"), "sin factura A/4 Cliente 4 0,00 0,00 0,00");
+  EXPECT_EQ(lineWith(text, "ya no existe"), "sin factura ya no existe");
+  EXPECT_EQ(lineWith(text, "Suma de"), "Suma de 5 albaranes 76,67 3,43");
+  EXPECT_EQ(lineWith(text, "Base"), "Base de comisiones 5,00");
+  EXPECT_THAT(lineWith(text, "ha cambiado"), HasSubstr("suman hoy 3,43"));
+  for (const char* words : {"Sin fecha", "Sin límite", "Todas"})
+    EXPECT_THAT(text, HasSubstr(words));
+  EXPECT_THAT(text, Not(HasSubstr("Observaciones")));
+}
+
+TEST(SettlementReport, WrapsRemarksOfAnyLengthAndNamesWhatIsMissing) {
+  PrintWorld world;
+  std::string remarks = "Primera línea\r\nSegunda línea ";
+  for (int word = 0; word < 3000; ++word) remarks += "palabra" + std::to_string(word) + " ";
+  const auto rows =
+      support::resultOf({"Age_Id", "Age_Nom", "Age_Nif", "Lca_Id", "Lca_Fecha", "Lca_HFecha",
+                         "Lca_Cob", "Lca_NCob", "Lca_Base", "Lca_PorIva", "Lca_Iva",
+                         "Lca_PorRetencion", "Lca_Retencion", "Lca_Total", "Lca_Obs"},
+                        {{}, {}, {}, 5, {}, {}, {}, {}, {}, {}, {}, {}, {}, {}, remarks});
+  world.print()->call("ShowReport", {ado::Variant(11), ado::Variant(""), ado::Variant(0), Omitted{},
+                                     Omitted{}, Omitted{}, Omitted{}, rows});
+  const std::string text = world.text();
+  EXPECT_EQ(lineWith(text, "Primera"), "Primera línea");
+  for (int word = 0; word < 3000; ++word)
+    ASSERT_THAT(text, HasSubstr("palabra" + std::to_string(word)));
+  EXPECT_GT(count(text, "\f"), 2U);
+  EXPECT_THAT(text, HasSubstr("No hay albaranes"));
+
+  EXPECT_THAT(world.settlementText(9), HasSubstr("No hay datos"));
+  EXPECT_EQ(world.delivered.back().rows, 0U);
+}
+
+}  // namespace
+}  // namespace korvantes::office
