@@ -28,6 +28,9 @@ class GridTable : public RowTable {
     return current && cell.row() == static_cast<int>(*current) && column < grid_.ColumnCount() &&
            grid_.Columns(column).Button;
   }
+  int reserved(const QModelIndex& cell) const override {
+    return hasButton(cell) ? cellButton(visualRect(cell)).width() : 0;
+  }
 
  protected:
   /// The cells, and over them the buttons of the current row.
@@ -44,6 +47,7 @@ class GridTable : public RowTable {
       option.state |= QStyle::State_Raised;
       option.rect = cellButton(visualRect(cell));
       option.text = "…";
+      painter.fillRect(option.rect, palette().color(QPalette::Button));
       style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
     }
   }

@@ -19,10 +19,18 @@ constexpr int kRowHeight = 20;
 constexpr int kHeadingHeight = 22;
 constexpr int kHeadingMargin = 3;
 constexpr int kSortMark = 10;
+constexpr int kCellMargin = 3;
 
 class RowDelegate : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  explicit RowDelegate(RowTable& table) : QStyledItemDelegate(&table), table_(table) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyleOptionViewItem place = option;
+    place.rect.setWidth(option.rect.width() - table_.reserved(index));
+    QStyledItemDelegate::paint(painter, place, index);
+  }
 
  protected:
   /// The mark of the current row is paler while the focus is elsewhere; no single cell is framed.
@@ -31,6 +39,8 @@ class RowDelegate : public QStyledItemDelegate {
     option->state.setFlag(QStyle::State_HasFocus, false);
     option->state.setFlag(QStyle::State_Active, true);
     option->textElideMode = Qt::ElideRight;
+    if (table_.reserved(index) > 0)
+      option->font = fit(option->text, option->font, option->rect.width() - 2 * kCellMargin).font;
     if (option->widget != nullptr && !option->widget->hasFocus()) {
       option->palette.setColor(QPalette::Highlight, QColor(0xD4, 0xE0, 0xEC));
       option->palette.setColor(QPalette::HighlightedText, QColor(0x14, 0x14, 0x14));
@@ -47,6 +57,9 @@ class RowDelegate : public QStyledItemDelegate {
       QToolTip::hideText();
     return true;
   }
+
+ private:
+  const RowTable& table_;
 };
 
 class CaptionHeader : public QHeaderView {
@@ -123,7 +136,7 @@ RowTable::RowTable(QWidget& parent) : QTableView(&parent) {
   setAlternatingRowColors(true);
   setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollMode(ScrollPerPixel);
-  setItemDelegate(&makeChild<RowDelegate>(this));
+  setItemDelegate(&makeChild<RowDelegate>(*this));
   auto& header = makeChild<CaptionHeader>(this);
   setHorizontalHeader(&header);
   header.setPalette(quietPalette());  // not the colours of the form

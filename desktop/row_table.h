@@ -30,6 +30,8 @@ class RowTable : public QTableView {
   int headingWidth(int column) const;
   /// Where the check mark of a cell stands.
   QRect checkMark(const QModelIndex& cell) const;
+  /// Width at the right end of a cell that its text leaves free.
+  virtual int reserved(const QModelIndex&) const { return 0; }
 
  protected:
   bool viewportEvent(QEvent* event) override;
