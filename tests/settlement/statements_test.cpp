@@ -121,22 +121,5 @@ TEST(SettlementStatements, ReplacingASettlementRemovesItAndWritesANewOne) {
   EXPECT_TRUE(world.sql("select Cav_IdLca from Cav where Cav_id = 3").cell(0, 0).isNull());
 }
 
-TEST(SettlementStatements, UntickingAllRowsOfASettlementOnlyRemovesIt) {
-  World world;
-  const int old = world.settle({1});
-  world.show(
-      [&](Screen& screen) {
-        screen.tick(0, false);
-        screen.click("cmdGrabar");
-        EXPECT_EQ(screen.form.nLiqui, 0);
-      },
-      old);
-  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
-  EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), 0U);
-  EXPECT_THAT(world.messages,
-              ElementsAre("[64] KORVANTES | Proceso de liquidacion de comisiones a agentes "
-                          "concluido satisfactoriamente"));
-}
-
 }  // namespace
 }  // namespace korvantes::settlement
