@@ -1,12 +1,17 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "office/sheet/folder_sheet_outlet.h"
 #include "office/sheet/spreadsheet.h"
+#include "outside/ado/error.h"
 #include "outside/screen/form.h"
 #include "outside/screen/headless_desktop.h"
 #include "tests/support/temporary_folder.h"
@@ -14,35 +19,75 @@
 namespace korvantes::office {
 
 /// A form with a list and a grid, a spreadsheet object, and a folder that it writes to.
-class SheetWorld : public SheetOutlet {
- public:
-  SheetWorld();
-  ~SheetWorld() override;
+struct SheetWorld : SheetOutlet {
+  SheetWorld() {
+    screen::Desktop::makeCurrent(&desktop);
+    desktop.regional(screen::Regional::named("es-ES"));
+    using screen::Alignment;
+    list.ColumnHeaders = {
+        {"Factura", 1440, Alignment::Left},      {"Fecha", 1440, Alignment::Left},
+        {"Cliente", 4000, Alignment::Right},     {"Oculta", 0, Alignment::Left},
+        {"Importe", 1701, Alignment::Right},     {"% Comision", 580, Alignment::Right},
+        {"Imp.Comision", 1701, Alignment::Right}};
+  }
+  ~SheetWorld() override { screen::Desktop::makeCurrent(nullptr); }
 
+  screen::HeadlessDesktop desktop;
   screen::Form form{"frmPrueba"};
   screen::ListView list{form, "ListView1"};
   screen::DataGrid grid{form, "dbgLiqui"};
   support::TemporaryFolder folder;
-  Spreadsheet sheets;
+  Spreadsheet sheets{std::shared_ptr<SheetOutlet>(std::shared_ptr<void>(), this)};  // not owned
   /// Where the next file goes; nothing: the user thinks better of it.
-  std::optional<std::filesystem::path> target;
+  std::optional<std::filesystem::path> target = folder.file("hoja.xlsx");
   std::string suggested;                   ///< name that the object asked for last
   std::optional<std::size_t> rowsWritten;  ///< rows it told of last
 
-  void addRow(std::vector<std::string> cells, bool ticked = false);
+  std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) override {
+    suggested = suggestedName;
+    return target;
+  }
+  void written(const std::filesystem::path& file, std::size_t rows) override {
+    if (file == target) rowsWritten = rows;
+  }
+
+  void addRow(std::vector<std::string> cells, bool ticked = false) {
+    screen::ListView::ListItem& item = list.Add(cells.front());
+    item.SubItems.assign(cells.begin() + 1, cells.end());
+    item.Checked = ticked;
+  }
   void exportList() { sheets.call("ListToExcel", {&list}); }
   void exportGrid(const ado::Recordset& rows) { sheets.call("gridtoexcel", {rows, &grid}); }
-  /// Words of the ado::Error that exporting the list ends with; "" for none.
-  std::string failureOfList();
+
   /// What read_sheet.py prints of the target.
-  std::string read(const std::string& option = {}) const;
-  std::vector<std::string> filesInFolder() const;
-
-  std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) override;
-  void written(const std::filesystem::path& file, std::size_t rows) override;
-
- private:
-  screen::HeadlessDesktop desktop_;
+  std::string read(const std::string& option = {}) const {
+    const std::string command =
+        std::string(READ_SHEET) + " '" + target.value().string() + "' " + option;
+    FILE* const output = ::popen(command.c_str(), "r");
+    std::string text;
+    std::array<char, 4096> piece{};
+    for (std::size_t size = 0; (size = std::fread(piece.data(), 1, piece.size(), output)) > 0;)
+      text.append(piece.data(), size);
+    if (::pclose(output) != 0) throw std::runtime_error(command + " failed");
+    return text;
+  }
+  std::vector<std::string> filesInFolder() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.file("")))
+      names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
 };
+
+/// Words of the ado::Error that an action ends with; "" for none.
+inline std::string failureOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const ado::Error& error) {
+    return error.what();
+  }
+  return {};
+}
 
 }  // namespace korvantes::office
