@@ -30,10 +30,11 @@ bool isSet(const char* name) {
   return value != nullptr && *value != '\0';
 }
 
-/// Kept back are what the offscreen platform says it cannot do, and what decoders say of damaged
-/// pictures, of which we tell the user ourselves.
+/// Kept back are what the offscreen platform says it cannot do, and what is said of damaged
+/// pictures and of files that no program opens, of which we tell the user ourselves.
 void say(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (text.startsWith(QLatin1String("This plugin does not support"))) return;
+  if (text.startsWith(QLatin1String("Unable to detect a launcher"))) return;
   if (std::string_view(context.category).starts_with("qt.gui.imageio")) return;
   std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
   if (type == QtFatalMsg) std::abort();
