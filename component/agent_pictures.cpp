@@ -42,7 +42,7 @@ std::optional<screen::MessageBox> guarda(std::int32_t nId, const screen::Picture
   }
   ado::Stream stream;
   stream.LoadFromFile(fichero);
-  rs.Fields("AGE_IMG").Value(stream.Read());
+  rs.Fields("AGE_IMG").Value(stream.Take());
   rs.Update();
   rs.Close();
   return std::nullopt;

@@ -72,7 +72,7 @@ screen::Picture readPicture(const std::string& path) {
   std::string reason;
   const QImage image = decode(file.Read(), reason);
   if (image.isNull()) fail("El fichero " + path + ' ' + reason);
-  return {file.Read(), image.width(), image.height(), image};
+  return {file.Take(), image.width(), image.height(), image};
 }
 
 void writePicture(const screen::Picture& picture, const std::string& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "outside/ado/variant.h"
 
@@ -22,6 +23,8 @@ class Stream {
   void Write(const Bytes& bytes);
   /// All bytes.
   const Bytes& Read() const { return bytes_; }
+  /// All bytes, which the stream then no longer holds: pictures are too large to be copied idly.
+  Bytes Take() { return std::exchange(bytes_, {}); }
 
  private:
   Bytes bytes_;

@@ -114,7 +114,7 @@ Picture HeadlessDesktop::loadPicture(const std::string& path) {
   const auto size = pictureSize(file.Read());
   if (!size) throw ado::Error(0, "El fichero " + path + ' ' + kNoPicture);
   if (size->tooLarge()) throw ado::Error(0, "El fichero " + path + ' ' + kTooManyPixels);
-  return {file.Read(), size->width, size->height};
+  return {file.Take(), size->width, size->height};
 }
 
 void HeadlessDesktop::savePicture(const Picture& picture, const std::string& path) {
