@@ -58,7 +58,11 @@ void frmAgentes::muestra(screen::TextBox& box, const std::string& guardado) {
 
 void frmAgentes::seleccionaEntrada(screen::ComboBox& lista, const char* nombre,
                                    std::size_t nCaracteres, const ado::Variant& codigo) {
-  if (lista.ListCount() == 0) return;
+  if (lista.ListCount() == 0) {
+    // What was typed for the agent before must not be saved for this one.
+    lista.Text = "";
+    return;
+  }
   const std::optional<std::int32_t> numero = codigoGuardado(codigo);
   const std::optional<int> entrada = numero ? entradaDe(lista, nCaracteres, *numero) : std::nullopt;
   lista.ListIndex = entrada.value_or(0);

@@ -45,6 +45,8 @@ TEST(AgentsOpenCases, WithoutTheSharedDatabaseAgentsAreSeenAndNothingIsWrittenOv
       EXPECT_THAT(world.messages, ElementsAre(HasSubstr("sin conexión")));
       screen.row(1);
       EXPECT_EQ(screen.field(1).Text(), "Luc Roy");
+      screen.desktop.user().typeEntry(screen.control<screen::ComboBox>("cboRegFiscal"), "02");
+      screen.row(0);
       screen.click("cmdSalvar");
       EXPECT_THAT(world.messages.back(), testing::StartsWith("[16]  | No hay ningún valor en la "));
     });
