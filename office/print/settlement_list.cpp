@@ -1,6 +1,7 @@
 #include "office/print/settlement_list.h"
 
 #include <map>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -14,10 +15,15 @@ namespace {
 /// The runtime's number for an item that a collection does not have.
 constexpr long kNoSuchItem = 3265;
 
-std::size_t positionOf(const ado::Recordset& rows, std::string_view name) {
+std::optional<std::size_t> find(const ado::Recordset& rows, std::string_view name) {
   const std::vector<ado::FieldDefinition>& fields = rows.definitions();
   for (std::size_t position = 0; position < fields.size(); ++position)
     if (ado::sameName(fields[position].name, name)) return position;
+  return std::nullopt;
+}
+
+std::size_t positionOf(const ado::Recordset& rows, std::string_view name) {
+  if (const std::optional<std::size_t> position = find(rows, name)) return *position;
   throw ado::Error(kNoSuchItem, "El informe de liquidaciones necesita la columna «" +
                                     std::string(name) +
                                     "»: busque las liquidaciones con sus facturas y emítalo de "
@@ -26,10 +32,16 @@ std::size_t positionOf(const ado::Recordset& rows, std::string_view name) {
 
 ListColumns columnsOf(const ado::Recordset& rows) {
   const auto at = [&](std::string_view name) { return positionOf(rows, name); };
-  return {at("Lca_Id"),     at("Age_Id"),    at("Age_Nom"),       at("Age_Nif"),
-          at("Lca_Fecha"),  at("Factura"),   at("Fav_Fecha"),     at("Fav_CliCod"),
-          at("Fav_CliNom"), at("Fav_Bruto"), at("Porcentaje"),    at("Comision"),
-          at("Lca_Base"),   at("Lca_Iva"),   at("Lca_Retencion"), at("Lca_Total")};
+  // Rows by line of a delivery note bring the line's amount beside that of the whole invoice.
+  const std::optional<std::size_t> base = find(rows, "Base");
+  return {at("Lca_Id"),        at("Age_Id"),
+          at("Age_Nom"),       at("Age_Nif"),
+          at("Lca_Fecha"),     at("Factura"),
+          at("Fav_Fecha"),     at("Fav_CliCod"),
+          at("Fav_CliNom"),    base ? *base : at("Fav_Bruto"),
+          at("Porcentaje"),    at("Comision"),
+          at("Lca_Base"),      at("Lca_Iva"),
+          at("Lca_Retencion"), at("Lca_Total")};
 }
 
 std::int32_t key(const ado::Variant& value) {

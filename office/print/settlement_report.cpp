@@ -228,7 +228,7 @@ void SettlementReport::writeTotals(PageFlow& flow) const {
 }
 
 void SettlementReport::writeRemarks(PageFlow& flow) const {
-  if (settlement_->remarks.isNull() || settlement_->remarks.text().empty()) return;
+  if (texts_.text(settlement_->remarks).isEmpty()) return;
   flow.space(kGap);
   flow.keep(kFact + kRemark);
   flow.line(kFact, [&](Canvas& canvas, double y) {
