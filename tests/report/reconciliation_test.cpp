@@ -103,7 +103,7 @@ TEST(SearchAgainstRawTables, SampleData) {
 TEST(SearchAgainstRawTables, RandomSettlements) {
   World world;
   removeRows(world);
-  fillRandomDatabase(*world.connection, 240, 20261124);
+  fillRandomDatabase(*world.connection, 150, 20261124);
   expectIndependentResults(world, {5, ado::Date::fromSerial(18004), ado::Date::fromSerial(18014)});
 }
 
