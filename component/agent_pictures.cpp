@@ -1,6 +1,7 @@
 // The picture of an agent on its way between the control that shows it and its column. The
 // desktop reads and writes pictures as files only, so that both ways pass through one.
 #include <optional>
+#include <stdexcept>
 
 #include "component/mdoKORVANTES.h"
 #include "component/private_folder.h"
@@ -14,7 +15,6 @@ namespace {
 constexpr const char* kParaGuardar = "select * from AGE where AGE_ID= ";
 constexpr const char* kParaCargar = "select AGE_IMG from AGE where AGE_ID= ";
 constexpr const char* kSalto = "\r\n";
-constexpr const char* kFichero = "temp.bmp";
 constexpr long kSinRegistro = 3021;
 
 void muestra(const std::optional<screen::MessageBox>& aviso) {
@@ -25,21 +25,36 @@ screen::MessageBox avisoDe(const std::string& texto) {
   return {texto, screen::style::Plain, std::string(screen::Desktop::kDefaultTitle)};
 }
 
-/// Stores the picture. Gives what the user must be told instead, if anything; the file is gone
-/// before the box stands on the screen.
-std::optional<screen::MessageBox> guarda(std::int32_t nId, const screen::Picture& imagen) {
-  auto& escritorio = screen::Desktop::current();
+/// The words of a failure without the path of the passing file, which means nothing to the user:
+/// "No se puede escribir el fichero de la imagen: el disco está lleno".
+std::string sinRuta(std::string texto, const std::string& ruta) {
+  const auto lugar = texto.find(ruta);
+  return lugar == std::string::npos ? texto : texto.replace(lugar, ruta.size(), "de la imagen");
+}
+
+/// Hands the path of a file to the step, and removes the file after it.
+template <class Paso>
+auto conFicheroDePaso(Paso paso) {
   const PrivateFolder carpeta;
-  const std::string fichero = carpeta.file(kFichero);
-  escritorio.savePicture(imagen, fichero);
-  if (escritorio.loadPicture(fichero).empty()) {
-    return screen::MessageBox{"El fichero no es valido", screen::style::Plain, "VRAL"};
+  const std::string fichero = carpeta.file("temp.bmp");
+  try {
+    return paso(fichero);
+  } catch (const std::exception& error) {
+    throw std::runtime_error(sinRuta(error.what(), fichero));
   }
+}
+
+/// Stores the picture. Gives what the user must be told instead, if anything.
+std::optional<screen::MessageBox> guarda(std::int32_t nId, const screen::Picture& imagen,
+                                         const std::string& fichero) {
+  auto& escritorio = screen::Desktop::current();
+  escritorio.savePicture(imagen, fichero);
+  if (escritorio.loadPicture(fichero).empty())
+    return screen::MessageBox{"El fichero no es valido", screen::style::Plain, "VRAL"};
 
   ado::Recordset rs = Conexion().OpenForUpdate(kParaGuardar + std::to_string(nId));
-  if (rs.isEOF() || rs.isBOF()) {
+  if (rs.isEOF() || rs.isBOF())
     throw ado::Error(kSinRegistro, "No hay ningún agente con el código " + std::to_string(nId));
-  }
   ado::Stream stream;
   stream.LoadFromFile(fichero);
   rs.Fields("AGE_IMG").Value(stream.Take());
@@ -53,23 +68,25 @@ screen::Picture carga(std::int32_t nId) {
   const ado::Recordset rs = Conexion().Execute(kParaCargar + std::to_string(nId));
   if (rs.isEOF() || rs.isBOF() || rs.Fields(0).Value().isNull()) return {};
   const ado::Bytes& bytes = rs.Fields("AGE_IMG").Value().bytes();
-  // A column emptied by another program holds a text of no bytes instead of Null.
+  // A column emptied by another program holds no bytes instead of Null.
   if (bytes.empty()) return {};
 
-  const PrivateFolder carpeta;
-  const std::string fichero = carpeta.file(kFichero);
-  ado::Stream stream;
-  stream.Write(bytes);
-  stream.SaveToFile(fichero);
-  return screen::Desktop::current().loadPicture(fichero);
+  return conFicheroDePaso([&](const std::string& fichero) {
+    ado::Stream stream;
+    stream.Write(bytes);
+    stream.SaveToFile(fichero);
+    return screen::Desktop::current().loadPicture(fichero);
+  });
 }
 
 }  // namespace
 
+// The passing file is gone before a message box stands on the screen.
 void msGuardaImagen(const std::int32_t& nId, const screen::Image& imagen) {
   std::optional<screen::MessageBox> aviso;
   try {
-    aviso = guarda(nId, imagen.Picture());
+    aviso = conFicheroDePaso(
+        [&](const std::string& fichero) { return guarda(nId, imagen.Picture(), fichero); });
   } catch (const std::exception& error) {
     aviso = avisoDe(std::string("Error : ") + kSalto + error.what());
   }

@@ -196,8 +196,10 @@ TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
   } cases[] = {
       {[&] { desktop.beforeSave = fail; }, kAgent, fresh, "Error : \r\nel disco ha fallado"},
       {[&] { desktop.beforeLoad = fail; }, kAgent, fresh, "Error : \r\nel disco ha fallado"},
-      {[&] { desktop.beforeLoad = spoil; }, kAgent, fresh, " no es una imagen bmp, jpg, gif o tif"},
-      {[&] { desktop.beforeSave = fill; }, kAgent, fresh, ": el fichero es demasiado grande"},
+      {[&] { desktop.beforeLoad = spoil; }, kAgent, fresh,
+       "Error : \r\nEl fichero de la imagen no es una imagen bmp, jpg, gif o tif"},
+      {[&] { desktop.beforeSave = fill; }, kAgent, fresh,
+       "No se puede escribir el fichero de la imagen: el fichero es demasiado grande"},
       {[&] { desktop.loadsNothing = true; }, kAgent, fresh, "[0] VRAL | El fichero no es valido"},
       {[] {}, kAgent, {}, "Error : \r\nNo hay ninguna imagen que guardar"},
       {[] {}, kNobody, fresh, "Error : \r\nNo hay ningún agente con el código 99"},
@@ -255,7 +257,8 @@ TEST_F(AgentPictures, ThatCannotBeShownLeaveTheControlEmpty) {
   row.Fields("AGE_IMG").Value(ado::Bytes(10));
   row.Update();
   EXPECT_TRUE(shown().empty());
-  EXPECT_THAT(messages, ElementsAre(EndsWith("no es una imagen bmp, jpg, gif o tif")));
+  EXPECT_THAT(messages, ElementsAre("[0] KORVANTES | El fichero de la imagen no es una imagen bmp, "
+                                    "jpg, gif o tif"));
 
   messages.clear();
   connection->failAt(1, ado::Error(64, "se ha cortado la conexión"));

@@ -4,14 +4,14 @@
 # --escritorio it is played on real windows, whose toolkit must have nothing to say.
 #
 # The program runs in WORK and leaves its documents in the folder out there: the transcript names them
-# out/NAME on every machine.
+# out/NAME on every machine. The files of the folder imagenes are there too.
 #
 # Whether pictures were taken depends on the desktop: those lines are left out.
 #
 # With KORVANTES_UPDATE_SCRIPTS set in the environment, EXPECTED is written instead: read the
 # difference before you keep it.
 file(REMOVE_RECURSE ${WORK})
-file(COPY ${BASE} ${BASE}.vespara DESTINATION ${WORK})
+file(COPY ${BASE} ${BASE}.vespara ${CMAKE_CURRENT_LIST_DIR}/imagenes DESTINATION ${WORK})
 get_filename_component(base_name ${BASE} NAME)
 
 set(options --regional es-ES --hoy 24/11/2026 --salida out)
