@@ -13,6 +13,8 @@ namespace korvantes::desktop {
 
 namespace {
 
+constexpr QSize kSize(720, 460);
+
 /// Asks the house's way before a file is replaced.
 class SaveDialog : public QFileDialog {
  public:
@@ -25,6 +27,7 @@ class SaveDialog : public QFileDialog {
     setOption(QFileDialog::DontConfirmOverwrite);
     setNameFilters(filtersOf(request.filter));
     setDefaultSuffix(toQt(request.suffix));
+    resize(kSize);
     setDirectory(toQt(folder.string()));
     selectFile(toQt(request.name));
   }

@@ -20,8 +20,10 @@
 
 namespace korvantes::desktop {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -45,7 +47,7 @@ class Documents : public testing::Test {
   Documents() {
     desktop_.onMessage = [this](const screen::MessageBox& box) {
       messages_.push_back(box.text);
-      return QtDesktop::Reply<screen::Answer>{box.yesNo() ? reply_ : screen::Answer::Ok};
+      return QtDesktop::Reply<screen::Answer>{box.yesNo() ? reply_ : screen::Answer::Ok, byEnter_};
     };
   }
 
@@ -93,7 +95,8 @@ class Documents : public testing::Test {
   fs::path path(const char* name) const { return fs::path(fromQt(folder_.path())) / name; }
 
   QTemporaryDir folder_;
-  QtDesktop desktop_;
+  RealStage desktop_;
+  bool byEnter_ = false;
   screen::Answer reply_ = screen::Answer::Yes;
   std::vector<std::string> messages_;
   std::string suggested_;
@@ -138,6 +141,17 @@ TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
 TEST_F(Documents, PreviewSaysThatThereIsNoPrinter) {
   preview([&](PrintPreview& window) { button(window, "Im&primir…").click(); });
   EXPECT_THAT(messages_, ElementsAre(HasSubstr("No hay ninguna impresora")));
+}
+
+TEST_F(Documents, EnterOnAMessageAboveThePreviewIsNoKeyOfTheForm) {
+  SampleForm form;
+  byEnter_ = true;
+  playReal(desktop_, form, [&](Robot& robot) {
+    preview([&](PrintPreview& window) { button(window, "Im&primir…").click(); });
+    robot.settle();
+  });
+  EXPECT_EQ(messages_.size(), 1U);
+  EXPECT_THAT(form.events, Not(Contains(HasSubstr("KeyUp 13"))));
 }
 
 TEST_F(Documents, PagesThatCannotBePaintedAreTheCallersMatter) {
