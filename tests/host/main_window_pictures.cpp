@@ -1,12 +1,18 @@
-// Leaves pictures of the main window, with a database and without one, in a folder:
+// Leaves pictures of the main window, with a database and without one, and of a report's preview in
+// a folder:
 //   korvantes_main_window_pictures FOLDER
 // They are for the eye: nothing compares them.
 #include <QApplication>
+#include <QPushButton>
+#include <QTimer>
 #include <filesystem>
 #include <iostream>
 
 #include "desktop/application.h"
+#include "desktop/print_preview.h"
+#include "desktop/robot.h"
 #include "host/desktop_window.h"
+#include "host/office_windows.h"
 #include "host/temporary_folder.h"
 
 int main(int argc, char** argv) {
@@ -32,5 +38,28 @@ int main(int argc, char** argv) {
   take("escritorio-sin-base.png");
   window.makeSample((work.path() / "muestra.db").string());
   take("escritorio.png");
+
+  // A report of the search screen, before it is saved.
+  korvantes::screen::Desktop::makeCurrent(&desktop);
+  host::offerDocumentsOnWindows(desktop);
+  const auto capture = [&](const char* name) {
+    desktop.capture((folder / name).string());
+    std::cout << name << '\n';
+    QApplication::activeModalWidget()->close();
+  };
+  QTimer::singleShot(1000, [&] {
+    QTimer::singleShot(500, [&] { capture("guardar.png"); });
+    auto& preview = *QApplication::activeModalWidget();
+    preview.findChildren<QPushButton*>().at(1)->click();
+    capture("vista-previa.png");
+  });
+  desktop.whileShown = [&](korvantes::screen::Form& form) {
+    korvantes::desktop::Robot robot(desktop);
+    for (const char* control : {"Check1(0)", "cmdBuscar", "cmdEmision"})
+      robot.click(*form.findControl(control));
+    robot.close();
+  };
+  window.openScreen(host::kDesktopEntries[1]);
+  korvantes::screen::Desktop::makeCurrent(nullptr);
   return 0;
 }
