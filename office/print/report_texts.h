@@ -30,7 +30,7 @@ class ReportTexts {
   screen::Regional regional_;
 };
 
-/// "1 factura", "2.000 facturas" without the separator of thousands: "2000 facturas".
+/// "1 albarán", "2000 albaranes".
 QString counted(std::size_t count, const char* one, const char* many);
 
 }  // namespace korvantes::office
