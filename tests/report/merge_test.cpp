@@ -7,8 +7,6 @@
 namespace korvantes::report {
 namespace {
 
-using testing::ElementsAre;
-
 const ado::Variant kNull;
 const ado::Date kMay{2024, 5, 31}, kJune{2024, 6, 30};
 
@@ -26,7 +24,7 @@ struct Note {
   std::string agentName = "Ana Gil", taxNumber = "1Z", customer = "Bar Pepe", number = "A/12   ";
 };
 
-ado::Recordset merged(const std::vector<Note>& notes, bool byDate = true) {
+ado::Recordset merged(const std::vector<Note>& notes) {
   std::vector<ado::Variant> cells;
   for (const Note& note : notes) {
     const std::vector<ado::Variant> row{note.invoice,
@@ -56,7 +54,7 @@ ado::Recordset merged(const std::vector<Note>& notes, bool byDate = true) {
            "Fav_Serie", "Fav_Numero", "Fav_CliCod", "Fav_CliNom", "Age_Id", "Age_Nif", "Lca_Base",
            "Lca_Iva", "Lca_Retencion", "Lca_Total", "Fav_Bruto", "Comision"},
           std::move(cells)),
-      byDate, plindor::UtilFormulario());
+      true, plindor::UtilFormulario());
 }
 
 /// "settlement: commission percentage" of each row.
@@ -99,6 +97,7 @@ TEST(MergedInvoices, NeighbouringNotesOfOneInvoiceAgentAndDateBecomeOneRow) {
       {"first or last among others", {{1, 5, kNull}, {1, 5, ten}, {1, 5, kNull}}, {"5: 0,1 0,1"}},
   };
   for (const Case& each : cases) EXPECT_EQ(amounts(merged(each.notes)), each.rows) << each.name;
+  EXPECT_FALSE(merged({}).isOpen());
 }
 
 TEST(MergedInvoices, TextsAreTrimmedAndCutToTheirFieldByCharacters) {
@@ -114,25 +113,7 @@ TEST(MergedInvoices, TextsAreTrimmedAndCutToTheirFieldByCharacters) {
   EXPECT_EQ(length("Fav_CliNom"), 100U);
   EXPECT_EQ(length("Age_Nif"), 20U);
   EXPECT_EQ(rows.Collect("Factura").text(), "A/12");
-}
-
-TEST(MergedInvoices, TheFieldsStandInTheOrderOfTheStatementOnTheLastRow) {
-  const auto fields = [](const ado::Recordset& rows) {
-    std::string names;
-    for (const ado::FieldDefinition& field : rows.definitions()) names += field.name + " ";
-    return names;
-  };
-  const std::string first = "Fav_Id Lca_Id Age_Nom Lca_Fecha ",
-                    last =
-                        "Fav_Bruto Comision Porcentaje Age_Id Fav_CliCod Lca_Base Fav_Serie "
-                        "Fav_Numero Age_Nif Lca_Iva Lca_Retencion Lca_Total ";
-  const ado::Recordset byDate = merged({{1, 5, cents(10)}, {2, 6, cents(20)}});
-  EXPECT_EQ(fields(byDate), first + "Factura Fav_Fecha Fav_CliNom " + last);
-  EXPECT_EQ(fields(merged({{1, 5, cents(10)}}, false)),
-            first + "Fav_CliNom Factura Fav_Fecha " + last);
-  EXPECT_EQ(byDate.position(), 1U);
-  EXPECT_TRUE(byDate.Collect("Fav_Serie").isNull() && byDate.Collect("Fav_Numero").isNull());
-  EXPECT_FALSE(merged({}).isOpen());
+  EXPECT_TRUE(rows.Collect("Fav_Serie").isNull() && rows.Collect("Fav_Numero").isNull());
 }
 
 }  // namespace
