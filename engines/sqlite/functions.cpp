@@ -54,9 +54,24 @@ void giveBack(sqlite3_context* context, const tsql::StoredValue& value) {
   }
 }
 
+int argumentsOf(const tsql::NumberFunction& function) {
+  return function.operands + function.numbers;
+}
+int argumentsOf(const tsql::ValueFunction& function) {
+  return function.arguments;
+}
+
+/// Arguments that may be Null, the first ones.
+int nullableOf(const tsql::NumberFunction& function) {
+  return function.operands;
+}
+int nullableOf(const tsql::ValueFunction& function) {
+  return function.arguments;
+}
+
 std::int64_t callWith(const tsql::NumberFunction& function, sqlite3_value** arguments) {
   std::array<std::int64_t, kMostArguments> numbers;
-  for (int i = 0; i < function.arguments; ++i) {
+  for (int i = 0; i < argumentsOf(function); ++i) {
     numbers[static_cast<std::size_t>(i)] = sqlite3_value_int64(arguments[i]);
   }
   return function.call(numbers.data());
@@ -64,7 +79,7 @@ std::int64_t callWith(const tsql::NumberFunction& function, sqlite3_value** argu
 
 tsql::StoredValue callWith(const tsql::ValueFunction& function, sqlite3_value** arguments) {
   std::array<tsql::StoredValue, kMostArguments> values;
-  const auto count = static_cast<std::size_t>(function.arguments);
+  const auto count = static_cast<std::size_t>(argumentsOf(function));
   for (std::size_t i = 0; i < count; ++i) values[i] = storedValue(arguments[i]);
   return function.call({values.data(), count});
 }
@@ -75,11 +90,11 @@ void giveBack(sqlite3_context* context, std::int64_t number) {
 
 /// No exception may leave: the caller is C.
 template <typename Function>
-void call(sqlite3_context* context, int count, sqlite3_value** arguments) {
-  for (int i = 0; i < count; ++i) {
+void call(sqlite3_context* context, int, sqlite3_value** arguments) {
+  const auto* registration = static_cast<const Registration<Function>*>(sqlite3_user_data(context));
+  for (int i = 0; i < nullableOf(*registration->function); ++i) {
     if (sqlite3_value_type(arguments[i]) == SQLITE_NULL) return;  // the result is Null already
   }
-  const auto* registration = static_cast<const Registration<Function>*>(sqlite3_user_data(context));
   try {
     giveBack(context, callWith(*registration->function, arguments));
   } catch (const ado::Error& error) {
@@ -95,7 +110,7 @@ void registerOne(Database& database, const Function& function) {
   // SQLite deletes the registration with the function, also when it could not be made.
   auto registration = std::make_unique<Registration<Function>>(&function, &database);
   const int code = sqlite3_create_function_v2(
-      database.raw(), function.name, function.arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+      database.raw(), function.name, argumentsOf(function), SQLITE_UTF8 | SQLITE_DETERMINISTIC,
       registration.release(), &call<Function>, nullptr, nullptr, [](void* pointer) {
         const std::unique_ptr<Registration<Function>> owned(
             static_cast<Registration<Function>*>(pointer));

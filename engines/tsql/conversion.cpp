@@ -182,6 +182,11 @@ ExpressionPtr rounded(ExpressionPtr value, int places) {
     product->numbers[2] = places;
     return value;
   }
+  if (auto* difference = operationOf(*value, Operation::Subtract)) {
+    difference->operation = Operation::SubtractRound;
+    difference->numbers = {type.scale, places};
+    return value;
+  }
   return operate(Operation::Round, type, {type.scale, places}, std::move(value));
 }
 

@@ -58,6 +58,10 @@ std::int64_t round(const std::int64_t* a) {
   return fitting(roundUnits(a[0], small(a[1]), small(a[2])));
 }
 
+std::int64_t subtractRound(const std::int64_t* a) {
+  return fitting(roundUnits(subtract(a), small(a[2]), small(a[3])));
+}
+
 /// Both roundings of ROUND(CAST(x AS money), places), in their order.
 std::int64_t rescaleWideAndRound(Wide units, const std::int64_t* fromToPlaces) {
   const int to = small(fromToPlaces[1]);
@@ -89,19 +93,20 @@ std::int64_t refuseRows(const std::int64_t*) {
 }
 
 constexpr std::array kNumberFunctions{
-    NumberFunction{"kv_add", 2, add},
-    NumberFunction{"kv_sub", 2, subtract},
-    NumberFunction{"kv_mul", 2, multiply},
-    NumberFunction{"kv_mul_round", 5, multiplyRound},
-    NumberFunction{"kv_div", 3, divide},
-    NumberFunction{"kv_mod", 2, modulo},
-    NumberFunction{"kv_abs", 1, absolute},
-    NumberFunction{"kv_rescale", 3, rescale},
-    NumberFunction{"kv_rescale_round", 4, rescaleRound},
-    NumberFunction{"kv_round", 3, round},
-    NumberFunction{"kv_int", 1, checkInt},
-    NumberFunction{"kv_digits", 2, checkDigits},
-    NumberFunction{"kv_refuse_rows", 1, refuseRows},
+    NumberFunction{"kv_add", 2, 0, add},
+    NumberFunction{"kv_sub", 2, 0, subtract},
+    NumberFunction{"kv_sub_round", 2, 2, subtractRound},
+    NumberFunction{"kv_mul", 2, 0, multiply},
+    NumberFunction{"kv_mul_round", 2, 3, multiplyRound},
+    NumberFunction{"kv_div", 2, 1, divide},
+    NumberFunction{"kv_mod", 2, 0, modulo},
+    NumberFunction{"kv_abs", 1, 0, absolute},
+    NumberFunction{"kv_rescale", 1, 2, rescale},
+    NumberFunction{"kv_rescale_round", 1, 3, rescaleRound},
+    NumberFunction{"kv_round", 1, 2, round},
+    NumberFunction{"kv_int", 1, 0, checkInt},
+    NumberFunction{"kv_digits", 1, 1, checkDigits},
+    NumberFunction{"kv_refuse_rows", 1, 0, refuseRows},
 };
 
 using Arguments = std::span<const StoredValue>;

@@ -13,10 +13,12 @@ namespace korvantes::tsql {
 ///
 /// Besides these the engine registers the collation KV_TEXT, which is ado::compareTexts.
 
-/// A function of whole numbers (counts, keys, units of exact numbers).
+/// A function of whole numbers (counts, keys, units of exact numbers). Behind the operands stand
+/// the numbers of the operation (scales, places), which are constants of the text and never Null.
 struct NumberFunction {
   const char* name;
-  int arguments;
+  int operands;
+  int numbers;
   std::int64_t (*call)(const std::int64_t* arguments);
 };
 

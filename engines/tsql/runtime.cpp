@@ -1,32 +1,43 @@
 #include "engines/tsql/runtime.h"
 
-#include <limits>
+#include <array>
 
 #include "engines/tsql/wide.h"
 
 namespace korvantes::tsql {
 
-std::optional<std::int64_t> narrow(Wide value) {
-  if (value > std::numeric_limits<std::int64_t>::max() ||
-      value < std::numeric_limits<std::int64_t>::min()) {
-    return std::nullopt;
-  }
-  return static_cast<std::int64_t>(value);
+namespace {
+
+constexpr int kLargestPower = 38;
+
+constexpr auto kPowersOfTen = [] {
+  std::array<Wide, kLargestPower + 1> powers{1};
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
+
+template <typename Number>
+Number quotientHalfAway(Number value, Number divisor) {
+  const Number quotient = value / divisor;
+  const Number rest = value % divisor;
+  const Number magnitude = rest < 0 ? -rest : rest;
+  if (magnitude < divisor - magnitude) return quotient;
+  return value < 0 ? quotient - 1 : quotient + 1;
 }
 
+}  // namespace
+
 std::optional<Wide> powerOfTen(int exponent) {
-  if (exponent < 0 || exponent > 38) return std::nullopt;
-  Wide power = 1;
-  for (int i = 0; i < exponent; ++i) power *= 10;
-  return power;
+  if (exponent < 0 || exponent > kLargestPower) return std::nullopt;
+  return kPowersOfTen[static_cast<std::size_t>(exponent)];
 }
 
 Wide divideHalfAway(Wide value, Wide divisor) {
-  const Wide quotient = value / divisor;
-  const Wide rest = value % divisor;
-  const Wide magnitude = rest < 0 ? -rest : rest;
-  if (magnitude < divisor - magnitude) return quotient;
-  return value < 0 ? quotient - 1 : quotient + 1;
+  // Nearly all numbers fit 64 bits, and there a division is many times faster.
+  const auto narrowValue = narrow(value);
+  const auto narrowDivisor = narrow(divisor);
+  if (narrowValue && narrowDivisor) return quotientHalfAway(*narrowValue, *narrowDivisor);
+  return quotientHalfAway(value, divisor);
 }
 
 std::optional<Wide> rescaleWide(Wide units, int fromScale, int toScale) {

@@ -17,6 +17,7 @@ struct FunctionOf {
 constexpr std::array kFunctions{
     FunctionOf{typed::Operation::Add, "kv_add", 0},
     FunctionOf{typed::Operation::Subtract, "kv_sub", 0},
+    FunctionOf{typed::Operation::SubtractRound, "kv_sub_round", 2},
     FunctionOf{typed::Operation::Multiply, "kv_mul", 0},
     FunctionOf{typed::Operation::MultiplyRound, "kv_mul_round", 3},
     FunctionOf{typed::Operation::Divide, "kv_div", 1},

@@ -27,6 +27,7 @@ using SelectPtr = std::unique_ptr<Select>;
 enum class Operation {
   Add,
   Subtract,
+  SubtractRound,  ///< scale, places: the difference, then rounded
   Multiply,
   MultiplyRound,  ///< from, to, places: rescaled, then rounded
   Divide,         ///< shift

@@ -9,7 +9,10 @@ namespace korvantes::tsql {
 __extension__ using Wide = __int128;
 
 /// Nothing when the value leaves 64 bits.
-std::optional<std::int64_t> narrow(Wide value);
+inline std::optional<std::int64_t> narrow(Wide value) {
+  const auto narrowed = static_cast<std::int64_t>(value);
+  return narrowed == value ? std::optional(narrowed) : std::nullopt;
+}
 
 /// 10^exponent; nothing outside 0 to 38.
 std::optional<Wide> powerOfTen(int exponent);
