@@ -34,7 +34,7 @@ std::string codigoVisible(const screen::ComboBox& lista, std::size_t nCifras, co
 
 /// The same, of a column that takes digits alone.
 std::string codigoNumerico(const screen::ComboBox& lista, std::size_t nCifras, const char* nombre) {
-  const std::string codigo = codigoVisible(lista, nCifras, nombre);
+  std::string codigo = codigoVisible(lista, nCifras, nombre);
   if (!codigoInicial(lista.Text(), nCifras))
     throw std::runtime_error(std::string(nombre) + ": «" + lista.Text() +
                              "» no empieza por un código. Elija una entrada de la lista.");
