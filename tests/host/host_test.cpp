@@ -181,9 +181,9 @@ TEST_F(HostTest, AScriptWithAnErrorEndsWithStatus1) {
   EXPECT_EQ(good.out,
             "> abrir liquidacion\n> ver foco\nfoco = Text1(0)\n[cerrado] frmNewLiquidAgentes\n");
   EXPECT_EQ(good.status, 0) << good.err;
-  const Outcome bad = run({"--base", url(), "guion", "-"}, "abrir informe\nsql select 1 as n\n");
+  const Outcome bad = run({"--base", url(), "guion", "-"}, "abrir nada\nsql select 1 as n\n");
   EXPECT_EQ(bad.out,
-            "> abrir informe\n[error] la pantalla todavía no existe\n"
+            "> abrir nada\n[error] no se conoce la pantalla «nada»\n"
             "> sql select 1 as n\nn\n1\n");
   EXPECT_EQ(bad.status, 1);
   EXPECT_EQ(bad.err, "korvantes-host: el guion ha dado errores: 1 línea marcada con [error]\n");
@@ -193,6 +193,7 @@ TEST_F(HostTest, PlaysTheSampleSettlementAgainAndAgainOnABaseOfItsOwn) {
   const Outcome first = run({"--salida", path("out")});
   EXPECT_EQ(first.status, 0) << first.err;
   EXPECT_NE(first.out.find("concluido satisfactoriamente"), std::string::npos);
+  EXPECT_TRUE(fs::exists(path("out/liquidacion_14.pdf")));
   EXPECT_EQ(run({"--salida", path("out")}).out, first.out);
   EXPECT_FALSE(fs::exists(path("datos")));
   // A display that does not answer is none.
