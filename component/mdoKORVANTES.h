@@ -25,7 +25,8 @@ ado::Connection& Conexion();
 
 /// A tax number with its check letter, as the agent master completes it: a text that begins with a
 /// digit gets the letter of its digits, behind them or in place of the letter typed; one that
-/// begins with a letter stays as it is; one of fewer than two characters becomes empty.
+/// begins with a letter stays as it is; one of fewer than two characters becomes empty. Blanks
+/// around are taken off first. More than eight digits have no letter: such a text stays as typed.
 std::string msCompletaNif(const std::string& sNif);
 
 /// Stores the picture that the control shows as that of the agent. A failure is told in a message
