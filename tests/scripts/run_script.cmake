@@ -12,6 +12,9 @@
 # difference before you keep it.
 file(REMOVE_RECURSE ${WORK})
 file(COPY ${BASE} ${BASE}.vespara ${CMAKE_CURRENT_LIST_DIR}/imagenes DESTINATION ${WORK})
+foreach(path IN ITEMS HOST SCRIPT EXPECTED)
+  cmake_path(ABSOLUTE_PATH ${path})
+endforeach()
 get_filename_component(base_name ${BASE} NAME)
 
 set(options --regional es-ES --hoy 24/11/2026 --salida out)
