@@ -169,6 +169,8 @@ void frmLiquidAgentes::dbgLiqui_ButtonClick(int columnIndex) {
     oFrm.nLiqui = rs.Collect("Lca_Id").asLong();
     oFrm.Show(kModal);
   }
+  // The rows may tell of what is no longer there; a search that a wrong date stops leaves none.
+  retiraResultado();
   msBuscarLiquidaciones();
   screen::DoEvents();
 }
