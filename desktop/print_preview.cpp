@@ -97,9 +97,9 @@ void PrintPreview::print() {
   document_.setUp(printer);
   printer.setDocName(toQt(document_.title));
   QPrintDialog dialog(&printer, this);
-  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
-                    QAbstractPrintDialog::PrintCollateCopies);
-  dialog.setMinMax(1, pages_.pageCount());
+  // Not PrintPageRange: without it the print server takes the pages out, and we paint them all. A
+  // file is what saving as PDF is for.
+  dialog.setOptions(QAbstractPrintDialog::PrintCollateCopies);
   stack_.opened(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   stack_.closed(dialog);

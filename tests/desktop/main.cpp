@@ -7,6 +7,8 @@ int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
   // Another platform can be asked for from outside.
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  // No printers, whatever the machine has.
+  setenv("CUPS_SERVER", "127.0.0.1:1", 1);
   const korvantes::desktop::Application application("desktop_test");
   return RUN_ALL_TESTS();
 }
