@@ -75,10 +75,12 @@ Variant convertedTo(const FieldDefinition& field, Variant value) {
     case FieldType::VarChar:
       break;
   }
+  const auto most = static_cast<std::size_t>(field.size);
+  const bool isText = value.kind() == Variant::Kind::Text;
+  // A text that fits stays the one that its copies share. No character is shorter than a byte.
+  if (isText && (most == 0 || value.text().size() <= most)) return value;
   std::string text = textOf(field, value);
-  if (field.size > 0) {
-    text.resize(firstCharacters(text, static_cast<std::size_t>(field.size)).size());
-  }
+  if (most > 0) text.resize(firstCharacters(text, most).size());
   return text;
 }
 
