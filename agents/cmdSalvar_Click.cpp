@@ -5,6 +5,7 @@
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
 #include "outside/ado/error.h"
+#include "outside/ado/transaction.h"
 #include "outside/ado/utf8.h"
 #include "outside/screen/conversions.h"
 #include "outside/screen/desktop.h"
@@ -41,16 +42,6 @@ std::string codigoNumerico(const screen::ComboBox& lista, std::size_t nCifras, c
   return codigo;
 }
 
-/// Undoes the transaction. Gives what the user must know when that fails too.
-std::string deshace(ado::Connection& conexion) {
-  try {
-    if (conexion.inTransaction()) conexion.RollbackTrans();
-    return "";
-  } catch (const std::exception& fallo) {
-    return std::string(kSalto) + "Tampoco se han podido deshacer los cambios: " + fallo.what();
-  }
-}
-
 }  // namespace
 
 void frmAgentes::cmdSalvar_Click() {
@@ -58,28 +49,27 @@ void frmAgentes::cmdSalvar_Click() {
 
   const std::shared_ptr<plindor::BaseDatos> MyBd = mdoKORVANTES::MyBd();
   ado::Connection& conexion = MyBd->Conexion();
-  // A transaction that somebody else has open is not ours to undo.
-  const bool bAjena = conexion.inTransaction();
+  ado::Transaction transaccion(conexion);
   bool bGuardado = false;
   std::int32_t nNuevo = 0;
   try {
     MyBd->LimpiaSentencia(0);
     MyBd->Tabla = "AGE";
-    conexion.BeginTrans();
+    transaccion.begin();
     agregaCampos(*MyBd);
     const std::string& sCodigo = txtFields(kCodigo).Text();
     const std::int32_t nCodigo = screen::IsNumeric(sCodigo) ? screen::CLng(sCodigo) : -1;
     const ado::Recordset rsId = conexion.Execute(kBuscaAgente + std::to_string(nCodigo));
     if (rsId.isEOF() || rsId.isBOF()) {
       nNuevo = anadeAgente(*MyBd);
-      conexion.CommitTrans();
+      transaccion.commit();
       bGuardado = true;
       msCargaAgentes();
       msPosicionAgente(0, true);
     } else {
       const std::int32_t nId = rsId.Fields(0).Value().asLong();
       actualizaAgente(*MyBd, nId);
-      conexion.CommitTrans();
+      transaccion.commit();
       bGuardado = true;
       msCargaAgentes();
       msPosicionAgente(nId, false);
@@ -87,8 +77,7 @@ void frmAgentes::cmdSalvar_Click() {
     msEstadoPantalla(Consulta);
     txtFields(kCodigo).SetFocus();
   } catch (const std::exception& fallo) {
-    std::string texto = fallo.what();
-    if (!bAjena) texto += deshace(conexion);
+    std::string texto = fallo.what() + transaccion.undo();
     if (nNuevo != 0 && (bGuardado || estaGuardado(conexion, nNuevo))) {
       // From now on it is an agent like any other: the next click changes it, and adds no second.
       txtFields(kCodigo).Text = std::to_string(nNuevo);

@@ -1,9 +1,9 @@
 #include <stdexcept>
 
 #include "component/mdoKORVANTES.h"
+#include "outside/ado/transaction.h"
 #include "outside/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
-#include "settlement/transaccion.h"
 
 namespace korvantes {
 
@@ -38,14 +38,14 @@ void frmNewLiquidAgentes::cmdBorrar_Click() {
     return;
 
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
-  Transaccion transaccion(oDb->Conexion());
+  ado::Transaction transaccion(oDb->Conexion());
   std::optional<std::string> sFallo;
   try {
-    transaccion.empieza();
+    transaccion.begin();
     borraLiquidacion(*oDb);
-    transaccion.confirma();
+    transaccion.commit();
   } catch (const std::exception& fallo) {
-    sFallo = fallo.what() + transaccion.deshace();
+    sFallo = fallo.what() + transaccion.undo();
   }
 
   if (sFallo)

@@ -2,10 +2,10 @@
 #include <stdexcept>
 
 #include "component/mdoKORVANTES.h"
+#include "outside/ado/transaction.h"
 #include "outside/screen/conversions.h"
 #include "outside/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
-#include "settlement/transaccion.h"
 
 namespace korvantes {
 
@@ -60,23 +60,23 @@ void frmNewLiquidAgentes::cmdGrabar_Click() {
 void frmNewLiquidAgentes::msGrabarLiquidacion() {
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
   const std::int32_t nLiquiAnterior = nLiqui;
-  Transaccion transaccion(oDb->Conexion());
+  ado::Transaction transaccion(oDb->Conexion());
   std::int32_t nNueva = 0;
   try {
     if (!compruebaLiquidacion()) return;
-    transaccion.empieza();
+    transaccion.begin();
     // What was never on the screen is not removed.
     if (nLiqui > 0 && bCargada) borraLiquidacionAnterior(oDb->Conexion());
     nLiqui = 0;
     if (hayMarcadas()) nNueva = escribeLiquidacion(*oDb);
-    transaccion.confirma();
+    transaccion.commit();
   } catch (const std::exception& fallo) {
     // What was stored stands as before, so the next save replaces the same settlement.
     nLiqui = nLiquiAnterior;
     std::string texto = fallo.what();
     if (!dynamic_cast<const FalloAlGrabar*>(&fallo))
       texto = std::string("Error grabando la liquidacion:") + kSalto + texto;
-    aviso(*this, texto + transaccion.deshace());
+    aviso(*this, texto + transaccion.undo());
     return;
   }
   bCargada = false;

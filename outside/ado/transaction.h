@@ -4,26 +4,26 @@
 
 #include "outside/ado/connection.h"
 
-namespace korvantes {
+namespace korvantes::ado {
 
-/// The one transaction of a save or a deletion.
-class Transaccion {
+/// The one transaction of a save or a deletion, and what undoes it when that fails.
+class Transaction {
  public:
-  explicit Transaccion(ado::Connection& conexion);
+  explicit Transaction(Connection& connection);
 
   /// Throws what BeginTrans throws, also when somebody else has a transaction open.
-  void empieza();
+  void begin();
   /// Throws what CommitTrans throws; if only its answer was lost, the changes are stored all the
   /// same.
-  void confirma();
-  /// Undoes what is not confirmed. Gives what the user must know when that fails, a line break in
+  void commit();
+  /// Undoes what is not committed. Gives what the user must know when that fails, a line break in
   /// front of it, else the empty text. A transaction that was open before stays as it is: it is not
   /// ours to undo.
-  std::string deshace();
+  std::string undo();
 
  private:
-  ado::Connection& conexion_;
-  bool ajena_;
+  Connection& connection_;
+  bool foreign_;
 };
 
-}  // namespace korvantes
+}  // namespace korvantes::ado
