@@ -1,7 +1,5 @@
 #include "agents/frmAgentes.h"
 
-#include <initializer_list>
-
 #include "agents/fields.h"
 #include "component/mdoKORVANTES.h"
 #include "outside/screen/desktop.h"
@@ -11,23 +9,10 @@ namespace korvantes {
 
 using namespace agents;
 
-namespace {
-
-template <class T>
-screen::ControlArray<T> arrayOf(screen::Form& form, const char* name,
-                                std::initializer_list<int> indexes) {
-  screen::ControlArray<T> controls(form, name);
-  for (int index : indexes) controls.add(index);
-  return controls;
-}
-
-}  // namespace
-
 frmAgentes::frmAgentes()
     : Form("frmAgentes"),
-      Label1(
-          arrayOf<screen::Label>(*this, "Label1", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 21, 23})),
-      txtFields(arrayOf<screen::TextBox>(*this, "txtFields", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10})) {
+      Label1(*this, "Label1", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 21, 23}),
+      txtFields(*this, "txtFields", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}) {
   layOut();
   wire();
 }

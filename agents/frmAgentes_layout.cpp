@@ -9,6 +9,7 @@ using namespace agents;
 namespace {
 
 using screen::Alignment;
+using screen::Box;
 using screen::Color;
 using screen::Font;
 
@@ -19,14 +20,6 @@ constexpr Color kYellow = screen::rgb(255, 255, 0);
 
 constexpr Font kRegular{8.25, false};
 constexpr Font kBold{8.25, true};
-
-struct Box {
-  int left, top, width, height;
-};
-
-void place(screen::Control& control, const Box& box) {
-  control.place(box.left, box.top, box.width, box.height);
-}
 
 struct LabelRow {
   int index;
@@ -74,27 +67,16 @@ constexpr TextRow kTexts[] = {
 void setUpFrame(screen::Frame& frame, const char* caption, const Box& box, int tabIndex,
                 Color background) {
   frame.Caption = caption;
-  place(frame, box);
+  frame.place(box);
   frame.TabIndex = tabIndex;
   frame.BackColor = background;
 }
 
 void setUpCombo(screen::ComboBox& combo, screen::Frame& frame, const Box& box, int tabIndex) {
   combo.container(&frame);
-  place(combo, box);
+  combo.place(box);
   combo.TabIndex = tabIndex;
   combo.TextFont = kRegular;
-}
-
-void setUpButton(screen::PictureButton& button, screen::Frame* frame, const char* caption,
-                 const char* icon, const Box& box, int tabIndex) {
-  button.container(frame);
-  button.Caption = caption;
-  button.Icon = icon;
-  place(button, box);
-  button.TabIndex = tabIndex;
-  button.BackColor = screen::kButtonFace;
-  button.ForeColor = screen::kButtonText;
 }
 
 }  // namespace
@@ -111,7 +93,7 @@ void frmAgentes::layOut() {
   setUpFrame(Frame1, "Datos Generales", {0, 3030, 8895, 4455}, 19, kPanel);
 
   dboOper.container(&Frame3);
-  place(dboOper, {120, 240, 11775, 2670});
+  dboOper.place({120, 240, 11775, 2670});
   dboOper.TabIndex = 24;
   dboOper.TextFont = kRegular;
 
@@ -120,14 +102,14 @@ void frmAgentes::layOut() {
     screen::Label& label = Label1(row.index);
     label.container(&Frame1);
     label.Caption = row.caption;
-    place(label, {row.left, row.top, row.width, kLabelHeight});
+    label.place({row.left, row.top, row.width, kLabelHeight});
     label.TabIndex = tabIndex++;
     label.TextFont = kRegular;
     label.ForeColor = kNavy;
   }
   LblCodigo.container(&Frame1);
   LblCodigo.Caption = "NUEVO";
-  place(LblCodigo, {120, 480, 1335, 255});
+  LblCodigo.place({120, 480, 1335, 255});
   LblCodigo.TabIndex = tabIndex;
   LblCodigo.TextFont = kBold;
   LblCodigo.BackColor = kYellow;
@@ -138,7 +120,7 @@ void frmAgentes::layOut() {
   for (const TextRow& row : kTexts) {
     screen::TextBox& text = txtFields(row.index);
     text.container(&Frame1);
-    place(text, row.box);
+    text.place(row.box);
     text.MaxLength = row.maxLength;
     text.TabIndex = row.tabIndex;
     text.TextFont = kRegular;
@@ -155,15 +137,16 @@ void frmAgentes::layOut() {
   cboRegFiscal.Text = "Combo1";
 
   imgAgente.container(&Frame2);
-  place(imgAgente, {120, 240, 2655, 2580});
-  setUpButton(cmdImagen, &Frame2, "Seleccionar Imagen", "imagen", {120, 2895, 1575, 495}, 21);
-  setUpButton(cmdGuardarImagen, &Frame2, "Guardar", "guardar", {1800, 2895, 975, 495}, 22);
+  imgAgente.place({120, 240, 2655, 2580});
+  for (screen::PictureButton* button : {&cmdImagen, &cmdGuardarImagen}) button->container(&Frame2);
+  cmdImagen.setUp("Seleccionar Imagen", "imagen", {120, 2895, 1575, 495}, 21);
+  cmdGuardarImagen.setUp("Guardar", "guardar", {1800, 2895, 975, 495}, 22);
 
-  setUpButton(XPBorrar, nullptr, "&Eliminar", "borrar", {120, 7005, 2775, 375}, 18);
-  setUpButton(cmdNuevo, nullptr, "&Nuevo", "nuevo", {3000, 7005, 2895, 375}, 15);
-  setUpButton(cmdCancelar, nullptr, "&Cancelar", "cancelar", {3000, 7005, 2895, 375}, 16);
-  setUpButton(cmdSalvar, nullptr, "&Salvar datos", "guardar", {6000, 7005, 2775, 375}, 14);
-  setUpButton(cmdSalir, nullptr, "&Salir", "salir", {8985, 6720, 2910, 645}, 17);
+  XPBorrar.setUp("&Eliminar", "borrar", {120, 7005, 2775, 375}, 18);
+  cmdNuevo.setUp("&Nuevo", "nuevo", {3000, 7005, 2895, 375}, 15);
+  cmdCancelar.setUp("&Cancelar", "cancelar", {3000, 7005, 2895, 375}, 16);
+  cmdSalvar.setUp("&Salvar datos", "guardar", {6000, 7005, 2775, 375}, 14);
+  cmdSalir.setUp("&Salir", "salir", {8985, 6720, 2910, 645}, 17);
   for (screen::PictureButton* button : {&cmdNuevo, &cmdCancelar, &cmdSalir})
     button->TabStop = false;
 

@@ -1,7 +1,6 @@
 #include "report/frmLiquidAgentes.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 #include "component/mdoKORVANTES.h"
 #include "outside/screen/conversions.h"
@@ -17,14 +16,6 @@ constexpr int kModal = 1;
 constexpr std::int32_t kPedirAgente = -1;
 constexpr const char* kTeclaEscape = "\x1b";
 
-template <class T>
-screen::ControlArray<T> arrayOf(screen::Form& form, const char* name,
-                                std::initializer_list<int> indexes) {
-  screen::ControlArray<T> controls(form, name);
-  for (int index : indexes) controls.add(index);
-  return controls;
-}
-
 bool sonDigitos(const std::string& texto) {
   return std::ranges::all_of(texto, [](char c) { return c >= '0' && c <= '9'; });
 }
@@ -39,11 +30,11 @@ std::string versionDelPrograma() {
 
 frmLiquidAgentes::frmLiquidAgentes()
     : Form("frmLiquidAgentes"),
-      Label1(arrayOf<screen::Label>(*this, "Label1", {1})),
-      Option1(arrayOf<screen::OptionButton>(*this, "Option1", {kPorFecha, kPorCliente})),
-      Check1(arrayOf<screen::CheckBox>(*this, "Check1", {kPorFacturas, kPorAlbaranes})),
-      Text1(arrayOf<screen::TextBox>(
-          *this, "Text1", {kCodigo, kNombre, kDesde, kHasta, kSerie, kDesdeNumero, kHastaNumero})) {
+      Label1(*this, "Label1", {1}),
+      Option1(*this, "Option1", {kPorFecha, kPorCliente}),
+      Check1(*this, "Check1", {kPorFacturas, kPorAlbaranes}),
+      Text1(*this, "Text1",
+            {kCodigo, kNombre, kDesde, kHasta, kSerie, kDesdeNumero, kHastaNumero}) {
   for (int index : {0, 2, 4, 5, 7, 8}) Label1.add(index);
   layOut();
   wire();

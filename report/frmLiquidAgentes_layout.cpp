@@ -6,19 +6,12 @@ namespace korvantes {
 namespace {
 
 using screen::Alignment;
+using screen::Box;
 using screen::Color;
 
 constexpr Color kPaper = screen::rgb(237, 222, 154);
 constexpr Color kDarkRed = screen::rgb(192, 0, 0);
 constexpr screen::Font kTotal{12, true};
-
-struct Box {
-  int left, top, width, height;
-};
-
-void place(screen::Control& control, const Box& box) {
-  control.place(box.left, box.top, box.width, box.height);
-}
 
 struct TextRow {
   int index;
@@ -62,7 +55,7 @@ constexpr LabelRow kLabels[] = {
 template <class T>
 void setUp(T& control, const char* caption, const Box& box, int tabIndex) {
   control.Caption = caption;
-  place(control, box);
+  control.place(box);
   control.TabIndex = tabIndex;
 }
 
@@ -71,15 +64,6 @@ void setUpChoice(T& choice, const char* caption, const Box& box, int tabIndex, b
   setUp(choice, caption, box, tabIndex);
   choice.BackColor = kPaper;
   choice.Enabled = enabled;
-}
-
-void setUpButton(screen::PictureButton& button, const char* caption, const char* icon,
-                 const Box& box, int tabIndex, bool enabled) {
-  setUp(button, caption, box, tabIndex);
-  button.Icon = icon;
-  button.BackColor = screen::kButtonFace;
-  button.ForeColor = screen::kButtonText;
-  button.Enabled = enabled;
 }
 
 }  // namespace
@@ -91,12 +75,12 @@ void frmLiquidAgentes::layOut() {
   BackColor = kPaper;
   KeyPreview = true;
 
-  place(Shape1, {0, 0, 14580, 7695});
+  Shape1.place({0, 0, 14580, 7695});
   Shape1.BackColor = kPaper;
 
   for (const TextRow& row : kTexts) {
     screen::TextBox& text = Text1(row.index);
-    place(text, row.box);
+    text.place(row.box);
     text.TabIndex = row.tabIndex;
     text.MaxLength = row.maxLength;
     text.TextAlignment = row.alignment;
@@ -121,12 +105,14 @@ void frmLiquidAgentes::layOut() {
   setUpChoice(Check1(kPorFacturas), "Desglosar por facturas", {5880, 840, 2295, 255}, 20, true);
   setUpChoice(Check1(kPorAlbaranes), "Desglosar por albaranes", {6240, 1080, 2415, 255}, 24, false);
 
-  setUpButton(cmdBuscar, "Iniciar Busqueda", "buscar", {11160, 240, 1575, 495}, 19, true);
-  setUpButton(cmdSalir, "Salir", "salir", {12840, 240, 1575, 495}, 18, true);
-  setUpButton(cmdEmision, "&Emitir Informe", "imprimir", {11160, 840, 1575, 480}, 21, false);
-  setUpButton(cmdExcel, "&Exportar a Excell", "hoja", {12840, 840, 1575, 480}, 25, false);
+  cmdBuscar.setUp("Iniciar Busqueda", "buscar", {11160, 240, 1575, 495}, 19);
+  cmdSalir.setUp("Salir", "salir", {12840, 240, 1575, 495}, 18);
+  cmdEmision.setUp("&Emitir Informe", "imprimir", {11160, 840, 1575, 480}, 21);
+  cmdExcel.setUp("&Exportar a Excell", "hoja", {12840, 840, 1575, 480}, 25);
 
-  place(dbgLiqui, {120, 1560, 14340, 5775});
+  for (screen::PictureButton* button : {&cmdEmision, &cmdExcel}) button->Enabled = false;
+
+  dbgLiqui.place({120, 1560, 14340, 5775});
   dbgLiqui.TabIndex = 10;
 
   setUp(lblTotales, "Total Base Liquidacion:", {11400, 7320, 3060, 330}, 11);

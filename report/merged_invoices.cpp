@@ -86,7 +86,9 @@ ado::Variant recortado(const ado::Variant& valor) {
   const std::string& texto = valor.text();
   const std::size_t primero = texto.find_first_not_of(' ');
   if (primero == std::string::npos) return std::string();
-  return texto.substr(primero, texto.find_last_not_of(' ') + 1 - primero);
+  const std::size_t longitud = texto.find_last_not_of(' ') + 1 - primero;
+  // Untouched, it shares its text with the row it comes from.
+  return longitud == texto.size() ? valor : ado::Variant(texto.substr(primero, longitud));
 }
 
 void rellena(ado::Recordset& rs, const ado::Recordset& rsFilas, const std::vector<Copia>& copias) {

@@ -1,7 +1,5 @@
 #include "settlement/frmNewLiquidAgentes.h"
 
-#include <initializer_list>
-
 #include "component/mdoKORVANTES.h"
 #include "outside/screen/conversions.h"
 #include "outside/screen/desktop.h"
@@ -12,14 +10,6 @@ namespace korvantes {
 namespace {
 
 constexpr int kCodigo = 0, kFecha = 2, kFechaLimite = 4;
-
-template <class T>
-screen::ControlArray<T> arrayOf(screen::Form& form, const char* name,
-                                std::initializer_list<int> indexes) {
-  screen::ControlArray<T> controls(form, name);
-  for (int index : indexes) controls.add(index);
-  return controls;
-}
 
 bool esFecha(int index) {
   return index == kFecha || index == kFechaLimite;
@@ -36,8 +26,8 @@ std::string sinBarras(const std::string& text) {
 
 frmNewLiquidAgentes::frmNewLiquidAgentes()
     : Form("frmNewLiquidAgentes"),
-      Label1(arrayOf<screen::Label>(*this, "Label1", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12})),
-      Text1(arrayOf<screen::TextBox>(*this, "Text1", {0, 1, 2, 3, 4, 7, 8, 9, 10, 11, 12})) {
+      Label1(*this, "Label1", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 12}),
+      Text1(*this, "Text1", {0, 1, 2, 3, 4, 7, 8, 9, 10, 11, 12}) {
   layOut();
   wire();
 }

@@ -6,6 +6,7 @@ namespace korvantes {
 namespace {
 
 using screen::Alignment;
+using screen::Box;
 using screen::Color;
 using screen::Font;
 
@@ -16,14 +17,6 @@ constexpr Color kNavy = screen::rgb(0, 0, 128);
 constexpr Font kRegular{8.25, false};
 constexpr Font kBold{8.25, true};
 constexpr Font kAmount{12, true};
-
-struct Box {
-  int left, top, width, height;
-};
-
-void place(screen::Control& control, const Box& box) {
-  control.place(box.left, box.top, box.width, box.height);
-}
 
 struct LabelRow {
   int index;
@@ -88,7 +81,7 @@ constexpr ColumnRow kColumns[] = {
 
 void setUpFrame(screen::Frame& frame, const char* caption, const Box& box, int tabIndex) {
   frame.Caption = caption;
-  place(frame, box);
+  frame.place(box);
   frame.TabIndex = tabIndex;
   frame.BackColor = kPaper;
   frame.ForeColor = kDarkRed;
@@ -101,7 +94,7 @@ void setUpLabels(const screen::ControlArray<screen::Label>& labels, const LabelR
     screen::Label& label = labels(row.index);
     label.container(&frame);
     label.Caption = row.caption;
-    place(label, row.box);
+    label.place(row.box);
     label.TabIndex = row.tabIndex;
     label.TextFont = kBold;
     label.ForeColor = kNavy;
@@ -114,7 +107,7 @@ void setUpTexts(const screen::ControlArray<screen::TextBox>& texts, const TextRo
   for (const TextRow& row : rows) {
     screen::TextBox& text = texts(row.index);
     text.container(&frame);
-    place(text, row.box);
+    text.place(row.box);
     text.MaxLength = row.maxLength;
     text.TabIndex = row.tabIndex;
     text.TextFont = font;
@@ -125,22 +118,11 @@ void setUpCheck(screen::CheckBox& check, screen::Frame& frame, const char* capti
                 int tabIndex, Color background) {
   check.container(&frame);
   check.Caption = caption;
-  place(check, box);
+  check.place(box);
   check.TabIndex = tabIndex;
   check.TextFont = kBold;
   check.ForeColor = kNavy;
   check.BackColor = background;
-}
-
-void setUpButton(screen::PictureButton& button, screen::Frame* frame, const char* caption,
-                 const char* icon, const Box& box, int tabIndex) {
-  button.container(frame);
-  button.Caption = caption;
-  button.Icon = icon;
-  place(button, box);
-  button.TabIndex = tabIndex;
-  button.BackColor = screen::kButtonFace;
-  button.ForeColor = screen::kButtonText;
 }
 
 }  // namespace
@@ -163,7 +145,7 @@ void frmNewLiquidAgentes::layOut() {
   screen::Label& heading = Label1(0);
   heading.container(&fraAgente);
   heading.Caption = "Situacion de cobro de las facturas";
-  place(heading, {8040, 240, 3135, 540});
+  heading.place({8040, 240, 3135, 540});
   heading.TabIndex = 30;
   heading.TextFont = kBold;
   heading.ForeColor = kDarkRed;
@@ -187,19 +169,22 @@ void frmNewLiquidAgentes::layOut() {
   setUpCheck(Check3, Frame2, "Imprimir liquidación", {9615, 240, 1965, 195}, 31, kPaper);
   Check1.Value = 1;
 
-  setUpButton(cmbBuscarFacturas, &fraAgente, "Iniciar &Búsqueda", "buscar", {11280, 240, 1335, 495},
-              5);
-  setUpButton(cmdImprime, &Frame2, "&Imprimir Liquidación", "imprimir", {9600, 480, 1935, 495}, 35);
-  setUpButton(cmdExcell, &Frame2, "&Exportar a Excel", "hoja", {11640, 480, 1935, 495}, 37);
-  setUpButton(cmdSelTodo, &Frame2, "Seleccionar &Todo", "marcar", {9600, 1080, 1935, 495}, 33);
-  setUpButton(cmdCancelar, &Frame2, "&Cancelar", "cancelar", {11640, 1080, 1935, 495}, 32);
+  cmbBuscarFacturas.container(&fraAgente);
+  for (screen::PictureButton* button :
+       {&cmdImprime, &cmdExcell, &cmdSelTodo, &cmdCancelar, &cmdBorrar, &cmdGrabar})
+    button->container(&Frame2);
+  cmbBuscarFacturas.setUp("Iniciar &Búsqueda", "buscar", {11280, 240, 1335, 495}, 5);
+  cmdImprime.setUp("&Imprimir Liquidación", "imprimir", {9600, 480, 1935, 495}, 35);
+  cmdExcell.setUp("&Exportar a Excel", "hoja", {11640, 480, 1935, 495}, 37);
+  cmdSelTodo.setUp("Seleccionar &Todo", "marcar", {9600, 1080, 1935, 495}, 33);
+  cmdCancelar.setUp("&Cancelar", "cancelar", {11640, 1080, 1935, 495}, 32);
   // Twice as wide as its neighbours, it covers cmdBorrar until a stored settlement is loaded.
-  setUpButton(cmdBorrar, &Frame2, "Borrar Liquidación", "borrar", {11640, 1680, 1935, 495}, 38);
-  setUpButton(cmdGrabar, &Frame2, "&Guardar Liquidacion", "guardar", {9600, 1680, 3975, 495}, 34);
-  setUpButton(cmdSalir, nullptr, "&Salir", "salir", {12840, 120, 855, 735}, 39);
+  cmdBorrar.setUp("Borrar Liquidación", "borrar", {11640, 1680, 1935, 495}, 38);
+  cmdGrabar.setUp("&Guardar Liquidacion", "guardar", {9600, 1680, 3975, 495}, 34);
+  cmdSalir.setUp("&Salir", "salir", {12840, 120, 855, 735}, 39);
 
   ListView1.container(&Frame1);
-  place(ListView1, {120, 240, 13455, 4695});
+  ListView1.place({120, 240, 13455, 4695});
   ListView1.TabIndex = 6;
   ListView1.TextFont = kRegular;
   for (const ColumnRow& column : kColumns)

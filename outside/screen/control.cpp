@@ -26,11 +26,11 @@ std::string Control::identity() const {
   return index_ ? name_ + "(" + std::to_string(*index_) + ")" : name_;
 }
 
-void Control::place(int left, int top, int width, int height) {
-  Left = left;
-  Top = top;
-  Width = width;
-  Height = height;
+void Control::place(const Box& box) {
+  Left = box.left;
+  Top = box.top;
+  Width = box.width;
+  Height = box.height;
 }
 
 bool Control::shown() const {

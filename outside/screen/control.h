@@ -12,6 +12,11 @@ namespace korvantes::screen {
 class Form;
 class Frame;
 
+/// Where a control stands: twips, relative to its container.
+struct Box {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+
 /// One control of a form. Positions and sizes are in twips (1440 an inch), relative to the
 /// container. A control belongs to its form from its construction to its destruction; it cannot be
 /// copied or moved.
@@ -48,7 +53,8 @@ class Control : public PropertyOwner {
   /// The frame it lies in; nullptr when it lies on the form itself.
   Frame* container() const { return container_; }
   void container(Frame* frame) { container_ = frame; }
-  void place(int left, int top, int width, int height);
+  void place(const Box& box);
+  void place(int left, int top, int width, int height) { place({left, top, width, height}); }
 
   /// Visible itself and in all its containers.
   bool shown() const;

@@ -34,6 +34,15 @@ void OptionButton::propertyChanged(const PropertyBase& property) {
 PictureButton::PictureButton(Form& form, std::string name, std::optional<int> index)
     : Control(form, Kind::PictureButton, std::move(name), index) {}
 
+void PictureButton::setUp(const char* caption, const char* icon, const Box& box, int tabIndex) {
+  Caption = caption;
+  Icon = icon;
+  place(box);
+  TabIndex = tabIndex;
+  BackColor = kButtonFace;
+  ForeColor = kButtonText;
+}
+
 Image::Image(Form& form, std::string name, std::optional<int> index)
     : Control(form, Kind::Image, std::move(name), index) {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -119,6 +120,10 @@ class PictureButton : public Control {
   Property<std::string> Caption{*this, "Caption"};
   /// Name of the icon for a face that has icons: "buscar", "guardar", "salir" …
   Property<std::string> Icon{*this, "Icon"};
+
+  /// What a form's layout says of a button; the colours are the system's.
+  /// @param caption with its access key behind "&"
+  void setUp(const char* caption, const char* icon, const Box& box, int tabIndex);
 };
 
 class Image : public Control {
@@ -150,7 +155,11 @@ class CommonDialog : public Control {
 template <class T>
 class ControlArray {
  public:
-  ControlArray(Form& form, std::string name) : form_(form), name_(std::move(name)) {}
+  /// @param indexes those of the controls, from back to front
+  ControlArray(Form& form, std::string name, std::initializer_list<int> indexes = {})
+      : form_(form), name_(std::move(name)) {
+    for (const int index : indexes) add(index);
+  }
 
   T& add(int index) {
     auto [place, fresh] = controls_.try_emplace(index);
