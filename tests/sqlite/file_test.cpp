@@ -26,6 +26,10 @@ class SqliteFileTest : public testing::Test {
       EXPECT_NE(std::string(error.what()), "");
     }
   }
+  void makeBase() {
+    SqliteConnection connection(path_, kCreate);
+    makeTables(connection);
+  }
   TemporaryFolder folder_;
   std::string path_ = folder_.file("empresa.db");
 };
@@ -63,10 +67,7 @@ TEST_F(SqliteFileTest, WhatIsMissingIsNotMadeUnlessAsked) {
 }
 
 TEST_F(SqliteFileTest, WithoutItsPartnerTheCompanysTablesStillWork) {
-  {
-    SqliteConnection connection(path_, kCreate);
-    makeTables(connection);
-  }
+  makeBase();
   fs::remove(path_ + ".vespara");
   SqliteConnection connection(path_);
   EXPECT_EQ(connection.Execute("select * from Lca").RecordCount(), 0U);
@@ -107,10 +108,7 @@ TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanishWithSqlitesWords) {
 }
 
 TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {
-  {
-    SqliteConnection connection(path_, kCreate);
-    makeTables(connection);
-  }
+  makeBase();
   const pid_t child = ::fork();
   ASSERT_GE(child, 0);
   if (child == 0) {

@@ -1,31 +1,9 @@
-#include <csignal>
-#include <sys/resource.h>
+#include "tests/support/full_disk.h"
 
-#include "engines/sqlite/sqlite_connection.h"
 #include "tests/sqlite/engine_fixture.h"
 
 namespace korvantes::testing_engines {
 namespace {
-
-/// Lets no file of this process grow beyond a size, as a full disk would.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit before_{};
-  void (*handler_)(int);
-};
 
 class FullDiskTest : public testing::Test {
  protected:
@@ -56,7 +34,7 @@ TEST_F(FullDiskTest, ACommitThatFailsLeavesTheOldStateAndCanBeRolledBack) {
   connection_.BeginTrans();
   change();
   {
-    const FileSizeLimit limit(kLimit);
+    const support::FullDisk limit(kLimit);
     EXPECT_THROW(connection_.CommitTrans(), ado::Error);
   }
   // Nobody has rolled back yet, so nothing is stored on its own.
@@ -74,7 +52,7 @@ TEST_F(FullDiskTest, WhoHasReadThatTheTransactionIsGoneMayGoOn) {
   connection_.BeginTrans();
   change();
   {
-    const FileSizeLimit limit(kLimit);
+    const support::FullDisk limit(kLimit);
     EXPECT_THROW(connection_.CommitTrans(), ado::Error);
   }
   EXPECT_FALSE(connection_.inTransaction());

@@ -11,7 +11,7 @@ class IdentityTest : public EngineTest {
   }
 };
 
-TEST_P(IdentityTest, NumbersCountUpAndAreNeverUsedTwice) {
+TEST_F(IdentityTest, NumbersCountUpAndAreNeverUsedTwice) {
   EXPECT_EQ(newest(), "1");
   EXPECT_EQ(newest(), "2");
   EXPECT_EQ(newest(), "3");
@@ -23,14 +23,14 @@ TEST_P(IdentityTest, NumbersCountUpAndAreNeverUsedTwice) {
   EXPECT_EQ(newest(), "5");
 }
 
-TEST_P(IdentityTest, TheNumberCannotBeGivenOrChanged) {
+TEST_F(IdentityTest, TheNumberCannotBeGivenOrChanged) {
   newest();
   failure("insert into Lca (Lca_Id, Lca_IdAg) values (50, 7)");
   failure("update Lca set Lca_Id = 50 where Lca_Id = 1");
   EXPECT_EQ(newest(), "2");
 }
 
-TEST_P(IdentityTest, NoNoteIsInTwoSettlements) {
+TEST_F(IdentityTest, NoNoteIsInTwoSettlements) {
   run("insert into Lcd (Lcd_IdLca, Lcd_IdCav) values (1, 33)");
   connection_->BeginTrans();
   newest();
@@ -40,8 +40,6 @@ TEST_P(IdentityTest, NoNoteIsInTwoSettlements) {
   EXPECT_EQ(rows("select * from Lcd"), std::vector<std::string>{"1|33"});
   EXPECT_EQ(cell("select count(*) from Lca"), "0");
 }
-
-KORVANTES_ON_EACH_ENGINE(IdentityTest);
 
 }  // namespace
 }  // namespace korvantes::testing_engines

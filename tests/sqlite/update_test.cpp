@@ -11,7 +11,7 @@ class UpdateTest : public EngineTest {
   }
 };
 
-TEST_P(UpdateTest, APictureGoesInAndComesBack) {
+TEST_F(UpdateTest, APictureGoesInAndComesBack) {
   ado::Bytes picture(300'000);
   for (std::size_t i = 0; i < picture.size(); ++i) picture[i] = static_cast<std::byte>(i * i >> 3U);
   auto row = connection_->OpenForUpdate("select * from AGE where AGE_ID= 7");
@@ -28,7 +28,7 @@ TEST_P(UpdateTest, APictureGoesInAndComesBack) {
             (std::vector<std::string>{"7|Uno|2.500|NULL", "8|Dos|NULL|NULL"}));
 }
 
-TEST_P(UpdateTest, EveryTypeIsStoredAsItsColumnHoldsIt) {
+TEST_F(UpdateTest, EveryTypeIsStoredAsItsColumnHoldsIt) {
   run("insert into Lca (Lca_IdAg) values (7)");
   auto row = connection_->OpenForUpdate("select * from Lca where Lca_Id = 1");
   row.Collect("Lca_Fecha", ado::Date{2026, 2, 28});
@@ -48,7 +48,7 @@ TEST_P(UpdateTest, EveryTypeIsStoredAsItsColumnHoldsIt) {
   EXPECT_EQ(cell("select Lca_Id,Lca_PorIva from Lca"), "1|21.01");
 }
 
-TEST_P(UpdateTest, TheRowIsFoundAgainByItsWholeKey) {
+TEST_F(UpdateTest, TheRowIsFoundAgainByItsWholeKey) {
   run("insert into Vespara.dbo.situaciones values (3, 0, 1, 'General')");
   run("insert into Vespara.dbo.situaciones values (3, 1, 1, 'Inglés')");
   auto row =
@@ -61,7 +61,7 @@ TEST_P(UpdateTest, TheRowIsFoundAgainByItsWholeKey) {
             (std::vector<std::string>{"0|1|General", "1|2|English"}));
 }
 
-TEST_P(UpdateTest, TakesPartInTheTransactionAndMissesADeletedRow) {
+TEST_F(UpdateTest, TakesPartInTheTransactionAndMissesADeletedRow) {
   connection_->BeginTrans();
   auto row = connection_->OpenForUpdate("select * from AGE where AGE_ID= 7");
   row.Collect("AGE_NOM", "Otro");
@@ -73,7 +73,7 @@ TEST_P(UpdateTest, TakesPartInTheTransactionAndMissesADeletedRow) {
   EXPECT_THROW(row.Update(), ado::Error);
 }
 
-TEST_P(UpdateTest, RefusesWhatIsNotOneTableWithItsKey) {
+TEST_F(UpdateTest, RefusesWhatIsNotOneTableWithItsKey) {
   for (const char* statement :
        {"select * from Lca inner join Age on Age_Id = Lca_IdAg", "select AGE_NOM from AGE",
         "update AGE set AGE_NOM = 'x'", "select * from NoHay"}) {
@@ -85,8 +85,6 @@ TEST_P(UpdateTest, RefusesWhatIsNotOneTableWithItsKey) {
   row.Collect("AGE_NOM", "tarde");
   EXPECT_THROW(row.Update(), ado::Error);
 }
-
-KORVANTES_ON_EACH_ENGINE(UpdateTest);
 
 }  // namespace
 }  // namespace korvantes::testing_engines

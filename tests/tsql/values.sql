@@ -121,6 +121,10 @@ CAST(0.0 AS bit)
 => varchar(5) [7  ]
 CAST(-k AS varchar(5))
 => varchar(5) *
+'A/' + CAST(123456 AS char(5)) + '.'
+=> varchar(8) A/*    .
+'A/' + CAST(-1234 AS char(5))
+=> varchar(7) A/-1234
 CAST(m AS varchar(10))
 => varchar(10) 10.05
 CAST(r AS varchar)

@@ -1,31 +1,16 @@
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "engines/sqlite/sqlite_connection.h"
 #include "outside/ado/error.h"
+#include "tests/support/rows.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/tsql/cases.h"
 
 namespace korvantes::tsql {
 namespace {
 
-std::string shown(const ado::Variant& value) {
-  switch (value.kind()) {
-    case ado::Variant::Kind::Null:
-      return "NULL";
-    case ado::Variant::Kind::Boolean:
-      return value.boolean() ? "True" : "False";
-    case ado::Variant::Kind::Whole:
-      return std::to_string(value.whole());
-    case ado::Variant::Kind::Decimal:
-      return value.decimal().text();
-    case ado::Variant::Kind::Date:
-      return value.date().dayFirst();
-    case ado::Variant::Kind::Text:
-      return value.text();
-    default:
-      return "?";
-  }
-}
+using support::shown;
 
 /// A database with the one row that values.sql speaks of.
 class Values : public testing::Test {
@@ -43,13 +28,25 @@ class Values : public testing::Test {
 
   std::string evaluate(const std::string& expression) {
     const std::string statement = "SELECT " + expression + " FROM V";
-    try {
+    std::string value;
+    const std::string refusal = failure([&] {
       const auto type = nameOf(compiler_.compile(statement).statement->types.front());
-      const auto rows = connection_.Execute(statement);
-      return type + " " + shown(rows.cell(0, 0));
+      value = type + " " + shown(connection_.Execute(statement).cell(0, 0));
+    });
+    return refusal.empty() ? value : "! " + refusal;
+  }
+
+  /// The words of the failure of a call; empty without one.
+  static std::string failure(const std::function<void()>& call) {
+    try {
+      call();
     } catch (const ado::Error& error) {
-      return std::string("! ") + error.what();
+      return error.what();
     }
+    return {};
+  }
+  std::string failureOf(const char* statement) {
+    return failure([&] { connection_.Execute(statement); });
   }
 
   static constexpr const char* kTable =
@@ -88,37 +85,23 @@ TEST_F(Values, WhatIsAssignedIsConvertedOrRefused) {
   };
   for (const auto& [change, expected] : cases) {
     connection_.BeginTrans();
-    const std::string column(1, change[0]);
-    std::string result;
-    try {
-      connection_.Execute(std::string("UPDATE V SET ") + change);
-      result = evaluate(column);
-    } catch (const ado::Error& error) {
-      result = std::string("! ") + error.what();
-    }
+    const std::string refusal = failureOf((std::string("UPDATE V SET ") + change).c_str());
+    EXPECT_EQ(refusal.empty() ? evaluate(std::string(1, change[0])) : "! " + refusal, expected)
+        << change;
     connection_.RollbackTrans();
-    EXPECT_EQ(result, expected) << change;
   }
 }
 
 TEST_F(Values, NullNeverReachesAColumnThatForbidsIt) {
   connection_.Execute("CREATE TABLE K (Id int PRIMARY KEY, A varchar(2) NOT NULL)");
-  const auto failure = [&](const char* statement) {
-    try {
-      connection_.Execute(statement);
-    } catch (const ado::Error& error) {
-      return std::string(error.what());
-    }
-    return std::string();
-  };
-  EXPECT_EQ(failure("INSERT INTO K SELECT n, 'a' FROM V"), "La columna «Id» no admite Null.");
-  EXPECT_EQ(failure("INSERT INTO K (Id, A) VALUES (1, (SELECT t FROM V WHERE i = 8))"),
+  EXPECT_EQ(failureOf("INSERT INTO K SELECT n, 'a' FROM V"), "La columna «Id» no admite Null.");
+  EXPECT_EQ(failureOf("INSERT INTO K (Id, A) VALUES (1, (SELECT t FROM V WHERE i = 8))"),
             "La columna «A» no admite Null.");
-  EXPECT_EQ(failure("INSERT INTO K (Id, A) VALUES (1, 'a'), (2, 'b')"), "");
-  EXPECT_EQ(failure("INSERT INTO K SELECT i, c FROM V"), "");
-  EXPECT_EQ(failure("INSERT INTO K SELECT i, '' + z FROM V WHERE LEN(z) = 1"), "");
-  EXPECT_EQ(failure("INSERT INTO K SELECT k, CAST(i AS varchar(1)) FROM V"), "");
-  EXPECT_EQ(failure("UPDATE K SET A = NULL + 'x'"), "La columna «A» no admite Null.");
+  EXPECT_EQ(failureOf("INSERT INTO K (Id, A) VALUES (1, 'a'), (2, 'b')"), "");
+  EXPECT_EQ(failureOf("INSERT INTO K SELECT i, c FROM V"), "");
+  EXPECT_EQ(failureOf("INSERT INTO K SELECT i, '' + z FROM V WHERE LEN(z) = 1"), "");
+  EXPECT_EQ(failureOf("INSERT INTO K SELECT k, CAST(i AS varchar(1)) FROM V"), "");
+  EXPECT_EQ(failureOf("UPDATE K SET A = NULL + 'x'"), "La columna «A» no admite Null.");
 }
 
 TEST_F(Values, GroupsDistinctAndOrderCompareTextsTheSameWay) {
