@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <limits>
-#include <sstream>
-
-#include "tests/support/recording_connection.h"
 
 namespace korvantes::host {
 namespace {
@@ -35,22 +32,6 @@ TEST(PrintedValues, EachKindHasOneForm) {
       {Variant(ado::Bytes{std::byte{0x00}, std::byte{0x0F}, std::byte{0xAB}}), "0x000FAB"},
   };
   for (const auto& each : cases) EXPECT_EQ(printedValue(each.value), each.printed);
-}
-
-TEST(PrintedValues, ASelectGetsAHeadingAndOtherStatementsACount) {
-  support::RecordingConnection connection;
-  connection.answer(
-      support::resultOf({"Age_Id", "a\tb"}, {Variant(1), Variant("x\ny"), Variant(2), Variant()}));
-  connection.answer(support::resultOf({"Age_Id", "age_nom"}, {}));
-  connection.rowsChanged = 12;
-  std::ostringstream out;
-  for (int statement = 0; statement < 3; ++statement) printStatement(connection, "…", out);
-  EXPECT_EQ(out.str(),
-            "Age_Id\ta\\tb\n"
-            "1\tx\\ny\n"
-            "2\tNULL\n"
-            "Age_Id\tage_nom\n"
-            "12 filas\n");
 }
 
 }  // namespace
