@@ -3,15 +3,7 @@
 namespace korvantes::report {
 
 void SearchScreen::type(int index, std::string_view text) const {
-  screen::UserInput user = world.desktop.user();
-  user.moveFocus(*form.findControl("Text1(" + std::to_string(index) + ")"));
-  user.clearText();
-  world.desktop.type(text);
-}
-
-void SearchScreen::click(const std::string& identity) const {
-  world.desktop.user().click(*form.findControl(identity));
-  world.desktop.settle();
+  typeInto("Text1(" + std::to_string(index) + ")", text);
 }
 
 void SearchScreen::choose(Forma forma, bool bPorFecha) const {
@@ -31,7 +23,7 @@ std::vector<std::string> SearchScreen::rows() const {
     std::string line;
     for (std::size_t column = 0; column < grid.ColumnCount(); ++column) {
       if (!grid.Columns(column).Visible) continue;
-      line += (line.empty() ? "" : " | ") + grid.cellText(row, column, world.desktop.regional());
+      line += (line.empty() ? "" : " | ") + grid.cellText(row, column, desktop.regional());
     }
     lines.push_back(line);
   }
@@ -40,14 +32,10 @@ std::vector<std::string> SearchScreen::rows() const {
 
 void show(settlement::World& world, const std::function<void(SearchScreen&)>& user) {
   frmLiquidAgentes form;
-  const auto former = world.desktop.whileShown;
-  world.desktop.whileShown = [&](screen::Form&) {
-    SearchScreen screen{world, form};
+  world.play(form, [&] {
+    SearchScreen screen{{world.desktop, form}};
     user(screen);
-    if (form.loaded()) form.Unload();
-  };
-  form.Show();
-  world.desktop.whileShown = former;
+  });
 }
 
 }  // namespace korvantes::report

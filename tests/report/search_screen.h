@@ -12,16 +12,8 @@
 namespace korvantes::report {
 
 /// The open screen, as its user handles it.
-struct SearchScreen {
-  settlement::World& world;
-  frmLiquidAgentes& form;
-
-  template <class T>
-  T& control(const std::string& identity) const {
-    return dynamic_cast<T&>(*form.findControl(identity));
-  }
+struct SearchScreen : support::OpenScreen<frmLiquidAgentes> {
   void type(int index, std::string_view text) const;
-  void click(const std::string& identity) const;
   /// Ticks or unticks the boxes of the shape and takes the order, as far as they are enabled.
   void choose(Forma forma, bool bPorFecha = true) const;
   void search() const { click("cmdBuscar"); }

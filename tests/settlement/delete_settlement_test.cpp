@@ -31,7 +31,7 @@ void deleteWithTwoYes(World& world, Screen& screen) {
 }
 
 TEST(SettlementDeletion, WhateverCallFailsAllOrNothingIsDeleted) {
-  for (const auto when : {FaultyConnection::When::Before, FaultyConnection::When::After}) {
+  for (const auto when : support::kMoments) {
     World world;
     world.settle({3});
     const auto untouched = world.stored();

@@ -14,6 +14,7 @@ using testing::StartsWith;
 constexpr const char* kWords = "disco lleno";
 
 using support::FaultyConnection;
+using support::kMoments;
 
 /// Fails the nth call of the save for every n until one save goes through, and holds the database,
 /// the screen and the message against what a failed save promises.
@@ -50,9 +51,6 @@ void sweep(World& world, Screen& screen, FaultyConnection::When when) {
     EXPECT_EQ(world.stored(), before);
   }
 }
-
-constexpr FaultyConnection::When kMoments[] = {FaultyConnection::When::Before,
-                                               FaultyConnection::When::After};
 
 TEST(SettlementSaveFailure, WhateverCallFailsANewSettlementIsSavedOnceLater) {
   for (const auto when : kMoments) {
@@ -95,9 +93,7 @@ TEST(SettlementSaveFailure, ARollbackIsTriedTwiceAndDoesNotHideTheFirstError) {
   for (int refusals : {1, 2}) {
     World world;
     world.show([&](Screen& screen) {
-      screen.search("5", false, false);
-      screen.type(2, "24112026");
-      screen.tick(screen.rowOf(1));
+      screen.makeOut({1});
       world.connection->failAt(2, ado::Error(13, kWords));
       world.connection->rollbackRefusals = refusals;
       screen.click("cmdGrabar");
@@ -115,9 +111,7 @@ TEST(SettlementSaveFailure, ARollbackIsTriedTwiceAndDoesNotHideTheFirstError) {
 TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
   World world;
   world.show([&](Screen& screen) {
-    screen.search("5", false, false);
-    screen.type(2, "24112026");
-    for (int note : {1, 3}) screen.tick(screen.rowOf(note));
+    screen.makeOut({1, 3});
     const auto entered = screen.contents();
 
     sqlite::SqliteConnection other(world.path());
@@ -144,9 +138,7 @@ TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
 TEST(SettlementSaveFailure, ANoteThatIsGoneIsNotSettled) {
   World world;
   world.show([&](Screen& screen) {
-    screen.search("5", false, false);
-    screen.type(2, "24112026");
-    screen.tick(screen.rowOf(3));
+    screen.makeOut({3});
     world.sql("delete from Cav where Cav_Id = 3");
     screen.click("cmdGrabar");
   });

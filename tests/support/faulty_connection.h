@@ -67,4 +67,8 @@ class FaultyConnection : public ado::Connection {
   bool countRollbacks_ = false;
 };
 
+/// For a sweep at both.
+inline constexpr FaultyConnection::When kMoments[] = {FaultyConnection::When::Before,
+                                                      FaultyConnection::When::After};
+
 }  // namespace korvantes::support
