@@ -45,7 +45,7 @@ TEST(AgentsOpenCases, WithoutTheSharedDatabaseAgentsAreSeenAndNothingIsWrittenOv
       EXPECT_THAT(world.messages, ElementsAre(HasSubstr("sin conexión")));
       screen.row(1);
       EXPECT_EQ(screen.field(1).Text(), "Luc Roy");
-      screen.desktop.user().typeEntry(screen.control<screen::ComboBox>("cboRegFiscal"), "02");
+      screen.typeRegime("02");
       screen.row(0);
       screen.click("cmdSalvar");
       EXPECT_THAT(world.messages.back(), testing::StartsWith("[16]  | No hay ningún valor en la "));
@@ -58,7 +58,7 @@ TEST(AgentsOpenCases, CodesThatAreInNoListAreToldBeforeTheyAreReplaced) {
   World world;
   world.sql("update Age set AGE_PRO = '60', AGE_PAI = 999 where AGE_ID = 3");
   const auto before = world.stored();
-  world.answer = screen::Answer::No;
+  world.otherwise = screen::Answer::No;
   world.show([&](Screen& screen) {
     screen.row(0);
     screen.desktop.user().selectEntry(screen.control<screen::ComboBox>("cboProvincias"), 2);
@@ -87,7 +87,7 @@ TEST(AgentsOpenCases, ATypedRegimeIsTakenByItsFirstTwoCharacters) {
     World world;
     world.show([&](Screen& screen) {
       screen.row(0);
-      screen.desktop.user().typeEntry(screen.control<screen::ComboBox>("cboRegFiscal"), each.typed);
+      screen.typeRegime(each.typed);
       screen.click("cmdSalvar");
       EXPECT_THAT(world.messages.back(), HasSubstr(each.message));
     });
@@ -99,12 +99,9 @@ TEST(AgentsOpenCases, ATypedRegimeIsTakenByItsFirstTwoCharacters) {
 TEST(AgentsOpenCases, AStoredValueIsNotShortenedWhenItIsShownInTheFieldWithTheFocus) {
   World world;
   world.show([&](Screen& screen) {
-    screen.desktop.onList = [](const screen::ListDialog& dialog) {
-      EXPECT_EQ(dialog.rows[2].name, "Luc Roy");
-      return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{2};
-    };
-    screen.desktop.user().moveFocus(screen.field(4));
-    screen.desktop.stroke(*screen::keyNamed("F1"));
+    world.chooseFromLists(2);
+    screen.go("txtFields(4)");
+    screen.press("F1");
     EXPECT_EQ(screen.field(4).Text(), "SW1A 2AA");
   });
 }

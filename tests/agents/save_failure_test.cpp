@@ -6,13 +6,11 @@ namespace korvantes::agents {
 namespace {
 
 using support::FaultyConnection;
+using support::kMoments;
 using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr const char* kWords = "disco lleno";
-constexpr FaultyConnection::When kMoments[] = {FaultyConnection::When::Before,
-                                               FaultyConnection::When::After};
-
 /// Enters an agent, fails the nth call of its save, and clicks again; for every n until no failure
 /// is met. However often it takes, the agent is stored once.
 void sweep(const std::function<void(Screen&)>& enter, const std::vector<std::string>& wanted) {

@@ -43,7 +43,7 @@ TEST(AgentsSave, WhatIsTypedIsStoredAndReadBackUnchanged) {
             "|12345678Z||08001||28|34|+34 (91) 555-01.02||Ana+ventas@Ejemplo.ES||99,999|2|");
     world.show([&](Screen& screen) {
       screen.type(0, "9");
-      screen.desktop.stroke(*screen::keyNamed("Tab"));
+      screen.press("Tab");
       EXPECT_EQ(screen.field(1).Text(), name);
       EXPECT_EQ(screen.field(9).Text(), "99,999");
     });
@@ -76,10 +76,9 @@ TEST(AgentsSave, ManyAgentsAreMovedThroughWithOneStatementAMove) {
     world.sql("INSERT INTO Age (AGE_ID, AGE_NOM) VALUES (" + std::to_string(id) + ", 'x')");
   base->CommitTrans();
   world.show([&](Screen& screen) {
-    screen.desktop.user().moveFocus(screen.control("dboOper"));
+    screen.go("dboOper");
     base->forgetCalls();
-    for (std::size_t move = 1; move < kAgents; ++move)
-      screen.desktop.stroke(*screen::keyNamed("Abajo"));
+    for (std::size_t move = 1; move < kAgents; ++move) screen.press("Abajo");
     EXPECT_EQ(screen.form.nIdAgente, static_cast<int>(kAgents));
     EXPECT_EQ(base->calls().size(), kAgents - 1);
     EXPECT_EQ(base->calls().back(), "select AGE_IMG from AGE where AGE_ID= 10000");

@@ -33,10 +33,8 @@ TEST(AgentsTwoUsers, WhatTheTableHoldsDecidesBetweenChangingAndAdding) {
     // Added by the other user after the list was read: not on it until the next save.
     world.sql("INSERT INTO Age (AGE_ID, AGE_NOM) VALUES (11, 'Aquí')");
     world.messages.clear();
-    screen.desktop.onList = [](const screen::ListDialog&) {
-      return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{1};
-    };
-    screen.desktop.stroke(*screen::keyNamed("F1"));
+    world.chooseFromLists(1);
+    screen.press("F1");
     EXPECT_THAT(world.messages, ElementsAre(HasSubstr("El agente 11 se ha añadido después")));
     EXPECT_EQ(screen.form.nIdAgente, 10);
   });
@@ -60,7 +58,7 @@ TEST(AgentsTwoUsers, AnAgentThatGoesBeforeTheListIsReadLeavesNoCursorOnIt) {
       world.connection->onStatement = nullptr;
       screen.type(0, "3");
       world.messages.clear();
-      screen.desktop.stroke(*screen::keyNamed("Tab"));
+      screen.press("Tab");
       EXPECT_THAT(world.messages, ElementsAre("[0] KORVANTES | Codigo de agente no existe"));
     });
   }
