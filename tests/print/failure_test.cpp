@@ -1,26 +1,17 @@
-#include <csignal>
+#include "tests/support/failure.h"
+
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 
-#include "outside/ado/error.h"
 #include "tests/print/print_world.h"
+#include "tests/support/full_disk.h"
 
 namespace korvantes::office {
 namespace {
 
+using support::failureOf;
 using testing::HasSubstr;
-
-/// The words of the failure of a call; empty without one.
-std::string failure(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const ado::Error& error) {
-    return error.what();
-  }
-  return "";
-}
 
 TEST(ReportCalls, ThatDoNotFitAreToldInSpanish) {
   PrintWorld world;
@@ -50,36 +41,19 @@ TEST(ReportCalls, ThatDoNotFitAreToldInSpanish) {
       {*bare, "ShowReport", {n11, text, zero}, "le falta la base de datos"},
   };
   for (const Case& each : cases)
-    EXPECT_THAT(failure([&] { each.object.call(each.method, each.arguments); }),
+    EXPECT_THAT(failureOf([&] { each.object.call(each.method, each.arguments); }),
                 HasSubstr(each.words));
-  EXPECT_THAT(failure([&] { print->set("Color", zero); }), HasSubstr("la propiedad «Color»"));
-  EXPECT_THAT(failure([&] { print->set("MyBd", zero); }), HasSubstr("la base de datos"));
+  EXPECT_THAT(failureOf([&] { print->set("Color", zero); }), HasSubstr("la propiedad «Color»"));
+  EXPECT_THAT(failureOf([&] { print->set("MyBd", zero); }), HasSubstr("la base de datos"));
   EXPECT_TRUE(world.delivered.empty());
 
   world.settle({}, "Null, Null, 0, 0, 0, 0, 0, 0, 0, 0, ''");
   world.settle({}, "Null, Null, 0, 0, 0, 0, 0, 0, 0, 0, ''");
-  EXPECT_THAT(failure([&] { print->call("ShowReport", {n11, text, zero}); }), HasSubstr("traen 2"));
+  EXPECT_THAT(failureOf([&] {
+                print->call("ShowReport", {n11, text, zero});
+              }),
+              HasSubstr("traen 2"));
 }
-
-/// Files grow no further than this, as on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-  void (*handler_)(int);
-};
 
 std::size_t filesIn(const std::string& folder) {
   const std::filesystem::directory_iterator files(folder);
@@ -99,15 +73,15 @@ TEST(ReportFiles, ThatCannotBeWrittenLeaveTheOldOneAndNothingElse) {
     const std::string file =
         world.file(limit == 4'000U ? "liquidacion_1.pdf" : "liquidacion_1-2.pdf");
     std::ofstream(file) << "antes";
-    const FullDisk disk(limit);
-    EXPECT_THAT(failure([&] { world.settlementText(number); }),
+    const support::FullDisk disk(limit);
+    EXPECT_THAT(failureOf([&] { world.settlementText(number); }),
                 HasSubstr(file + ": el fichero es demasiado grande"));
     EXPECT_EQ(std::filesystem::file_size(file), 5U);
   }
   EXPECT_EQ(filesIn(world.file("")), 2U);
 
   std::filesystem::create_directory(world.file("liquidacion.pdf"));
-  EXPECT_THAT(failure([&] { world.settlementText(9); }),
+  EXPECT_THAT(failureOf([&] { world.settlementText(9); }),
               HasSubstr("liquidacion.pdf: es una carpeta"));
   EXPECT_EQ(filesIn(world.file("")), 3U);
   EXPECT_TRUE(world.delivered.empty());

@@ -10,19 +10,12 @@
 namespace korvantes::office {
 
 PrintWorld::PrintWorld() {
-  screen::Desktop::makeCurrent(&desktop);
-  desktop.regional(screen::Regional::named("es-ES"));
-  desktop.clock = ado::Moment{{2026, 11, 24}, 0};
   outlet = std::make_shared<FolderReportOutlet>(
       std::make_shared<OutputFolder>(out_.file("")),
       [this](int number, std::size_t rows, const std::filesystem::path& file) {
         delivered.push_back({number, rows, file});
       });
   sql("INSERT INTO Age (AGE_ID, AGE_NOM, AGE_NIF) VALUES (7, 'Núñez e Hijos', '12345678Z')");
-}
-
-PrintWorld::~PrintWorld() {
-  screen::Desktop::makeCurrent(nullptr);
 }
 
 void PrintWorld::invoice(int invoice) {
@@ -45,8 +38,7 @@ int PrintWorld::settle(const std::vector<int>& notes, const std::string& amounts
   sql("INSERT INTO Lca (Lca_IdAg, Lca_Fecha, Lca_HFecha, Lca_Cob, Lca_NCob, Lca_Base, Lca_PorIva, "
       "Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total, Lca_Obs) VALUES (7, " +
       amounts + ")");
-  const int number =
-      database_.connection()->Execute("SELECT MAX(Lca_Id) FROM Lca").Fields(0).Value().asLong();
+  const int number = sql("SELECT MAX(Lca_Id) FROM Lca").Fields(0).Value().asLong();
   for (const int each : notes)
     sql("INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (" + std::to_string(number) + ", " +
         std::to_string(each) + ")");
@@ -59,7 +51,7 @@ std::unique_ptr<Object> PrintWorld::component() {
 
 std::unique_ptr<Object> PrintWorld::print() {
   auto object = component();
-  object->set("MyBd", std::make_shared<plindor::BaseDatos>(database_.connection()));
+  object->set("MyBd", std::make_shared<plindor::BaseDatos>(connection));
   return object;
 }
 

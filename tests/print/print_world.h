@@ -8,20 +8,15 @@
 #include "office/outlets.h"
 #include "office/output_folder.h"
 #include "outside/office/objects.h"
-#include "outside/plindor/base_datos.h"
-#include "outside/screen/headless_desktop.h"
-#include "tests/support/temporary_database.h"
+#include "tests/support/screen_world.h"
 
 namespace korvantes::office {
 
-/// Agent 7, "Núñez e Hijos", and a desktop with Spanish settings on 24/11/2026. Keys of notes,
-/// invoices and lines are what the tests say.
-class PrintWorld {
+/// Agent 7, "Núñez e Hijos". Keys of notes, invoices and lines are what the tests say.
+class PrintWorld : public support::ScreenWorld {
  public:
   PrintWorld();
-  ~PrintWorld();
 
-  void sql(const std::string& statement) { database_.connection()->Execute(statement); }
   /// Delivery note A/`note` on invoice F/`invoice` of 01/10/2026, with one line.
   void note(int note, int invoice, const std::string& amount, const std::string& percent);
   void invoice(int invoice);
@@ -44,11 +39,9 @@ class PrintWorld {
     std::filesystem::path file;
   };
   std::vector<Delivered> delivered;
-  screen::HeadlessDesktop desktop;
   std::shared_ptr<ReportOutlet> outlet;
 
  private:
-  support::TemporaryDatabase database_;
   support::TemporaryFolder out_;
 };
 

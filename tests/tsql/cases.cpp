@@ -4,7 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "outside/ado/error.h"
+#include "tests/support/failure.h"
 
 namespace korvantes::tsql {
 
@@ -45,12 +45,7 @@ std::shared_ptr<Catalogue> schema() {
 }
 
 std::string refusalOf(Compiler& compiler, std::string_view statement) {
-  try {
-    compiler.compile(statement);
-  } catch (const ado::Error& error) {
-    return error.what();
-  }
-  return {};
+  return support::failureOf([&] { compiler.compile(statement); });
 }
 
 std::string columnsOf(const CompiledStatement& statement) {

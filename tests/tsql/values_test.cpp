@@ -1,8 +1,7 @@
-#include <functional>
 #include <gtest/gtest.h>
 
 #include "engines/sqlite/sqlite_connection.h"
-#include "outside/ado/error.h"
+#include "tests/support/failure.h"
 #include "tests/support/rows.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/tsql/cases.h"
@@ -29,24 +28,15 @@ class Values : public testing::Test {
   std::string evaluate(const std::string& expression) {
     const std::string statement = "SELECT " + expression + " FROM V";
     std::string value;
-    const std::string refusal = failure([&] {
+    const std::string refusal = support::failureOf([&] {
       const auto type = nameOf(compiler_.compile(statement).statement->types.front());
       value = type + " " + shown(connection_.Execute(statement).cell(0, 0));
     });
     return refusal.empty() ? value : "! " + refusal;
   }
 
-  /// The words of the failure of a call; empty without one.
-  static std::string failure(const std::function<void()>& call) {
-    try {
-      call();
-    } catch (const ado::Error& error) {
-      return error.what();
-    }
-    return {};
-  }
   std::string failureOf(const char* statement) {
-    return failure([&] { connection_.Execute(statement); });
+    return support::failureOf([&] { connection_.Execute(statement); });
   }
 
   static constexpr const char* kTable =
