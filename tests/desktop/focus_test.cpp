@@ -13,6 +13,8 @@ using testing::IsEmpty;
 
 namespace {
 
+using Focus = OnWindows;
+
 void sendKey(QWidget& window, QEvent::Type type, int key, bool repeated = false,
              quint32 scanCode = 0) {
   QKeyEvent event(type, key, Qt::NoModifier, scanCode, 0, 0, QString(), repeated);
@@ -28,10 +30,8 @@ Log keyUps(const Log& events) {
 
 }  // namespace
 
-TEST(Focus, OfTheToolkitFollowsTheModels) {
-  RealStage desktop;
-  SampleForm form;
-  playReal(desktop, form, [&](Robot& robot) {
+TEST_F(Focus, OfTheToolkitFollowsTheModels) {
+  play([&](Robot& robot) {
     const auto expectFocus = [&](screen::Control& control) {
       EXPECT_EQ(form.ActiveControl(), &control);
       EXPECT_TRUE(widgetOf(control).hasFocus()) << control.identity();
@@ -53,10 +53,8 @@ TEST(Focus, OfTheToolkitFollowsTheModels) {
   });
 }
 
-TEST(Focus, KeysReachTheFormWhileNoControlCanHaveIt) {
-  RealStage desktop;
-  SampleForm form;
-  playReal(desktop, form, [&](Robot& robot) {
+TEST_F(Focus, KeysReachTheFormWhileNoControlCanHaveIt) {
+  play([&](Robot& robot) {
     for (screen::Control* control : form.controls()) control->Visible = false;
     robot.stroke(*screen::keyNamed("Tab"));
     robot.settle();
@@ -67,10 +65,8 @@ TEST(Focus, KeysReachTheFormWhileNoControlCanHaveIt) {
   });
 }
 
-TEST(Focus, StrayReleasesAndKeysHeldSinceBeforeDoNothing) {
-  RealStage desktop;
-  SampleForm form;
-  playReal(desktop, form, [&](Robot&) {
+TEST_F(Focus, StrayReleasesAndKeysHeldSinceBeforeDoNothing) {
+  play([&](Robot&) {
     QWidget& window = *widgetOf(form.save).window();
     form.events.clear();
     sendKey(window, QEvent::KeyRelease, Qt::Key_Escape);
@@ -92,7 +88,7 @@ TEST(Focus, StrayReleasesAndKeysHeldSinceBeforeDoNothing) {
   });
 }
 
-TEST(Focus, FrameButtonEscapeAndAltF4EndTheModalCall) {
+TEST(ModalCall, EndsByFrameButtonEscapeAndAltF4) {
   const std::vector<std::function<void(Robot&, SampleForm&)>> ways{
       [](Robot& robot, SampleForm&) { robot.close(); },
       [](Robot&, SampleForm& form) { widgetOf(form.save).window()->close(); },
@@ -115,7 +111,7 @@ TEST(Focus, FrameButtonEscapeAndAltF4EndTheModalCall) {
   }
 }
 
-TEST(Focus, EndOfTheProgramUnloadsTheFormsThatAreOpen) {
+TEST(EndOfTheProgram, UnloadsTheFormsThatAreOpen) {
   RealStage desktop;
   Log closed;
   desktop.onClosed = [&](const screen::Form& form) { closed.push_back(form.Caption()); };

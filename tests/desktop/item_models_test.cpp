@@ -10,6 +10,7 @@
 namespace korvantes::desktop {
 
 using Tester = QAbstractItemModelTester;
+using ShownRows = OnWindows;
 
 TEST(ItemModels, ListFollowsEveryChangeOfTheRows) {
   SampleForm form;
@@ -55,10 +56,8 @@ TEST(ItemModels, GridFollowsItsRecordset) {
   EXPECT_EQ(model.columnCount(), 0);
 }
 
-TEST(ItemModels, CurrentRowIsTiedBothWays) {
-  RealStage desktop;
-  SampleForm form;
-  playReal(desktop, form, [&](Robot& robot) {
+TEST_F(ShownRows, AndTheRecordsetHaveOneCurrentRow) {
+  play([&](Robot& robot) {
     const auto shown = [&] {
       return static_cast<QTableView&>(widgetOf(form.grid)).currentIndex().row();
     };
@@ -74,10 +73,8 @@ TEST(ItemModels, CurrentRowIsTiedBothWays) {
   });
 }
 
-TEST(ItemModels, HundredThousandRowsAreShownAtOnce) {
-  RealStage desktop;
-  SampleForm form;
-  playReal(desktop, form, [&](Robot& robot) {
+TEST_F(ShownRows, AreThereAtOnceWhenTheyAreAHundredThousand) {
+  play([&](Robot& robot) {
     for (int i = 0; i < 100'000; ++i) form.list.Add(std::to_string(i)).SubItems = {"1,00"};
     QElapsedTimer clock;
     clock.start();

@@ -10,6 +10,8 @@
 
 namespace korvantes::desktop {
 
+using DesignedForm = OnWindows;
+
 TEST(Look, NeighboursThatTouchInTwipsTouchInPixels) {
   SampleForm form;
   for (int left = 0; left < 40; ++left) {
@@ -60,11 +62,9 @@ TEST(Look, EveryIconDrawsSomething) {
   EXPECT_FALSE(hasIcon("desconocido"));
 }
 
-TEST(Look, WindowShowsTheFormAsDesigned) {
-  RealStage desktop;
-  SampleForm form;
+TEST_F(DesignedForm, IsShownAsDesigned) {
   form.Text1(0).BackColor = 65535;
-  playReal(desktop, form, [&](Robot& robot) {
+  play([&](Robot& robot) {
     QWidget& window = *widgetOf(form.save).window();
     EXPECT_EQ(window.size(), QSize(600, 480));
     EXPECT_EQ(window.windowTitle(), "Todo lo que hay");

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -99,13 +100,15 @@ Log recorded(Prepare prepare, Act act) {
   return form.events;
 }
 
-template <class Prepare, class Act>
-Log recordedHeadless(Prepare prepare, Act act) {
-  return recorded<screen::HeadlessDesktop, HeadlessUser>(prepare, act);
-}
-template <class Prepare, class Act>
-Log recordedReal(Prepare prepare, Act act) {
-  return recorded<QtDesktop, Robot>(prepare, act);
-}
+/// A test with a form on windows.
+class OnWindows : public testing::Test {
+ protected:
+  template <class Act>
+  void play(Act act) {
+    playReal(desktop, form, act);
+  }
+  RealStage desktop;
+  SampleForm form;
+};
 
 }  // namespace korvantes::desktop

@@ -14,6 +14,8 @@ namespace korvantes::desktop {
 
 namespace {
 
+using Typing = OnWindows;
+
 QLineEdit& fieldOf(const screen::TextBox& box) {
   return static_cast<QLineEdit&>(widgetOf(box));
 }
@@ -35,7 +37,7 @@ void compose(QLineEdit& field, const QString& text) {
 
 }  // namespace
 
-TEST(Typing, EveryWayIntoAFieldPassesItsKeyFilterAndLength) {
+TEST(KeyFilter, AndLengthHoldForEveryWayIntoAField) {
   const std::vector<std::function<void(Robot&, QLineEdit&)>> ways{
       [](Robot& robot, QLineEdit&) { robot.type("1x2-3456789"); },
       [](Robot& robot, QLineEdit&) {
@@ -58,12 +60,10 @@ TEST(Typing, EveryWayIntoAFieldPassesItsKeyFilterAndLength) {
   }
 }
 
-TEST(Typing, ReadOnlyFieldsTakeNothingAndCanBeCopied) {
-  RealStage desktop;
-  SampleForm form;
+TEST_F(Typing, ReadOnlyFieldsTakeNothingAndCanBeCopied) {
   form.Text1(1).Text = "1.234,56";
   form.Text1(1).Locked = true;
-  playReal(desktop, form, [&](Robot& robot) {
+  play([&](Robot& robot) {
     robot.moveFocus(form.Text1(1));
     robot.type("9");
     drop(fieldOf(form.Text1(1)), "9");
@@ -75,11 +75,9 @@ TEST(Typing, ReadOnlyFieldsTakeNothingAndCanBeCopied) {
   });
 }
 
-TEST(Typing, CutTakesTheSelectionOutThroughTheModel) {
-  RealStage desktop;
-  SampleForm form;
+TEST_F(Typing, CutTakesTheSelectionOutThroughTheModel) {
   form.Text1(1).Text = "abcdef";
-  playReal(desktop, form, [&](Robot& robot) {
+  play([&](Robot& robot) {
     robot.moveFocus(form.Text1(1));
     robot.stroke(*screen::keyNamed("Mayús+Left"));
     robot.stroke(*screen::keyNamed("Mayús+Left"));
@@ -93,11 +91,9 @@ TEST(Typing, CutTakesTheSelectionOutThroughTheModel) {
   });
 }
 
-TEST(Typing, MousePlacesTheModelsCaretInCharacters) {
-  RealStage desktop;
-  SampleForm form;
+TEST_F(Typing, MousePlacesTheModelsCaretInCharacters) {
   form.Text1(1).Text = "\U0001F600ñab";  // the first character takes two of Qt's units
-  playReal(desktop, form, [&](Robot& robot) {
+  play([&](Robot& robot) {
     robot.moveFocus(form.Text1(1));
     QLineEdit& field = fieldOf(form.Text1(1));
     EXPECT_EQ(form.Text1(1).SelStart(), 4);
@@ -112,21 +108,17 @@ TEST(Typing, MousePlacesTheModelsCaretInCharacters) {
   });
 }
 
-TEST(Typing, WhatIsDroppedLandsWhereItIsDropped) {
-  RealStage desktop;
-  SampleForm form;
+TEST_F(Typing, WhatIsDroppedLandsWhereItIsDropped) {
   form.Text1(1).Text = "abc";
-  playReal(desktop, form, [&](Robot&) {
+  play([&](Robot&) {
     drop(fieldOf(form.Text1(1)), "X");  // at the left end
     EXPECT_EQ(form.ActiveControl(), &form.Text1(1));
     EXPECT_EQ(form.Text1(1).Text(), "Xabc");
   });
 }
 
-TEST(Typing, ProgramsTextIsShownWholeWhateverTheMaximum) {
-  RealStage desktop;
-  SampleForm form;
-  playReal(desktop, form, [&](Robot&) {
+TEST_F(Typing, ProgramsTextIsShownWholeWhateverTheMaximum) {
+  play([&](Robot&) {
     form.Text1(0).Text = "123456789012";
     EXPECT_EQ(fieldOf(form.Text1(0)).text(), "123456789012");
   });
