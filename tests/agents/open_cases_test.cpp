@@ -54,23 +54,6 @@ TEST(AgentsOpenCases, WithoutTheSharedDatabaseAgentsAreSeenAndNothingIsWrittenOv
   }
 }
 
-TEST(AgentsOpenCases, CodesThatAreInNoListAreToldBeforeTheyAreReplaced) {
-  World world;
-  world.sql("update Age set AGE_PRO = '60', AGE_PAI = 999 where AGE_ID = 3");
-  const auto before = world.stored();
-  world.otherwise = screen::Answer::No;
-  world.show([&](Screen& screen) {
-    screen.row(0);
-    screen.desktop.user().selectEntry(screen.control<screen::ComboBox>("cboProvincias"), 2);
-    screen.click("cmdSalvar");
-    EXPECT_THAT(world.messages, ElementsAre("[48] Agentes | El agente tiene códigos que no están "
-                                            "en las listas. Si confirma la entrada:\r\nPaís 999 "
-                                            "pasará a ser «001 - País»",
-                                            HasSubstr("Confirma la entrada de datos")));
-  });
-  EXPECT_EQ(world.stored(), before);
-}
-
 TEST(AgentsOpenCases, ATypedRegimeIsTakenByItsFirstTwoCharacters) {
   struct Case {
     const char *typed, *stored, *message;

@@ -72,15 +72,5 @@ TEST(SettlementTotals, ComeFromTheTickedCommissionsAndTheRatesOnScreen) {
   }
 }
 
-TEST(SettlementTotals, EmptyRateBoxesCountAsZero) {
-  World world;
-  world.show([&](Screen& screen) {
-    screen.click("cmdSelTodo");
-    EXPECT_EQ(shown(screen), (Totals{"0", "0", "0", "0"}));
-    EXPECT_EQ(screen.text(3).Text(), "");
-  });
-  EXPECT_THAT(world.messages, testing::IsEmpty());
-}
-
 }  // namespace
 }  // namespace korvantes::settlement
