@@ -23,6 +23,18 @@ TEST(StoredSettlement, OneThatIsGoneOrCannotBeShownIsNotTouchedByWhatIsSavedInIt
   }
 }
 
+TEST(StoredSettlement, ListsNotesWithoutLinesAndInvoicesWithoutSeries) {
+  World world;
+  const int number = world.settle({2});
+  world.show(
+      [](Screen& screen) {
+        EXPECT_EQ(screen.list().item(0).Text, "1234567");
+        EXPECT_THAT(screen.list().item(0).SubItems,
+                    ElementsAre("11/10/2026", "Bar Pepe", "/16", "0,00", "0,00", "0,00"));
+      },
+      number);
+}
+
 TEST(StoredSettlement, NullsShowAsEmptyFieldsAndUntickedFilters) {
   World world;
   world.sql("INSERT INTO Lca (Lca_IdAg) VALUES (6)");

@@ -120,6 +120,8 @@ DROP INDEX X
 -- Names.
 SELECT * FROM Nada
 => Línea 1, columna 15: no existe la tabla «Nada».
+SELECT * FROM PROV
+=> Línea 1, columna 15: no existe la tabla «PROV».
 SELECT * FROM otra.dbo.Cav
 => Línea 1, columna 15: no existe la base de datos «otra».
 SELECT * FROM otro.Cav
