@@ -48,7 +48,7 @@ TEST_F(EventOrder, OfClicksIsFocusThenChangeOfTheControlThenClick) {
   });
 }
 
-TEST_F(EventOrder, FocusTakenBackInLostFocusDropsTheTargetAndItsClick) {
+TEST_F(EventOrder, FocusSentElsewhereInLostFocusDropsTheTargetAndItsClick) {
   form.also(form.first.LostFocus, [&] {
     MsgBox("no existe");
     form.first.SetFocus();
@@ -60,12 +60,7 @@ TEST_F(EventOrder, FocusTakenBackInLostFocusDropsTheTargetAndItsClick) {
     // The message took the release of the Tab.
     EXPECT_EQ(form.taken(), (Log{"Text1(0) LostFocus", "Text1(0) GotFocus"}));
     EXPECT_EQ(form.ActiveControl(), &form.first);
-  });
-}
-
-TEST_F(EventOrder, FocusSentElsewhereInLostFocusGoesThereAtOnce) {
-  form.also(form.first.LostFocus, [&] { form.check.SetFocus(); });
-  stage.play(form, [&] {
+    form.also(form.first.LostFocus, [&] { form.check.SetFocus(); });
     EXPECT_FALSE(stage.user().moveFocus(form.second));
     EXPECT_EQ(form.taken(), (Log{"Text1(0) LostFocus", "Check1 GotFocus"}));
   });
@@ -131,13 +126,15 @@ TEST_F(EventOrder, ExceptionOfAHandlerBecomesAMessageAndTheFormStaysUsable) {
   });
 }
 
-TEST_F(EventOrder, ExceptionOfLoadTravelsToTheCallerOfShow) {
+TEST_F(EventOrder, FormThatFailsOrIsUnloadedWhileLoadingIsNeverShown) {
   form.load = [] { throw std::runtime_error("sin conexión"); };
   EXPECT_THROW(form.Show(), std::runtime_error);
   EXPECT_FALSE(form.loaded());
   EXPECT_TRUE(stage.forms().empty());
-  form.load = nullptr;
-  stage.play(form, [&] { EXPECT_TRUE(form.loaded()); });
+  form.load = [&] { form.Unload(); };
+  stage.whileShown = [](Form&) { FAIL(); };
+  form.Show();
+  EXPECT_EQ(form.log, (Log{"Form_Unload"}));
 }
 
 TEST_F(EventOrder, FormUnloadedInItsHandlerTakesNoFurtherEvents) {
@@ -154,13 +151,6 @@ TEST_F(EventOrder, FormUnloadedInItsHandlerTakesNoFurtherEvents) {
     EXPECT_EQ(form.taken(), (Log{"Text1(0) LostFocus", "Form_Unload"}));
   });
   EXPECT_EQ(form.first.Text(), "");
-}
-
-TEST_F(EventOrder, FormUnloadedWhileLoadingIsNeverShown) {
-  form.load = [&] { form.Unload(); };
-  stage.whileShown = [](Form&) { FAIL(); };
-  form.Show();
-  EXPECT_EQ(form.log, (Log{"Form_Unload"}));
 }
 
 TEST_F(EventOrder, InputDuringAHandlerRunsInBetweenAndItsFocusIsSettledAtTheEnd) {

@@ -8,50 +8,6 @@
 namespace korvantes::screen {
 namespace {
 
-/// A form that moves on with Enter as with Tab, save where the marker swallows one Enter.
-class MarkerForm : public SampleForm {
- public:
-  MarkerForm() {
-    keyUp = [this](int& code) {
-      if (code == key::Enter && Tag().empty()) SendKeys("\t");
-      if (code == key::Enter) code = 0;
-      Tag = "";
-    };
-  }
-};
-
-TEST(HeadlessDesktop, SendsKeysBehindTheRunningEvent) {
-  Stage stage;
-  MarkerForm form;
-  stage.play(form, [&] {
-    stage.type("a\nb\n");
-    EXPECT_EQ(form.first.Text(), "a");
-    EXPECT_EQ(form.second.Text(), "b");
-    EXPECT_EQ(form.ActiveControl(), &form.check);
-  });
-}
-
-TEST(HeadlessDesktop, BringsTheReleaseOfTheEnterThatClosedAMessage) {
-  Stage stage;
-  stage.answerByEnter = true;
-  MarkerForm form;
-  form.also(form.first.LostFocus, [&] {
-    form.Tag = "e";
-    MsgBox("no existe");
-    form.first.SetFocus();
-    form.log.push_back("end");
-  });
-  stage.play(form, [&] {
-    stage.press("Tab");
-    EXPECT_EQ(form.taken(),
-              (Log{"Text1(0) LostFocus", "end", "Text1(0) GotFocus", "Form_KeyUp 13"}));
-    EXPECT_EQ(form.Tag(), "");
-    form.first.LostFocus = nullptr;
-    stage.press("Enter");
-    EXPECT_EQ(form.ActiveControl(), &form.second);
-  });
-}
-
 TEST(HeadlessDesktop, KeepsTheReleaseFromTheFormBelowWhenThePressOpenedOrClosedAWindow) {
   Stage stage;
   SampleForm below, above;
@@ -97,18 +53,6 @@ TEST(HeadlessDesktop, LeavesKeysNotTakenToTheFormBelow) {
     EXPECT_EQ(below.second.Text(), "x");
     EXPECT_EQ(above.first.Text(), "");
   });
-}
-
-TEST(HeadlessDesktop, ClosesAFormWhoseUserFails) {
-  Stage stage;
-  SampleForm form;
-  stage.whileShown = [](Form&) { throw std::runtime_error("guion"); };
-  EXPECT_THROW(form.Show(), std::runtime_error);
-  EXPECT_FALSE(form.loaded());
-  EXPECT_TRUE(stage.forms().empty());
-  stage.whileShown = nullptr;
-  form.Show();  // without a user it closes at once
-  EXPECT_FALSE(form.loaded());
 }
 
 TEST(HeadlessDesktop, TakesDefaultsWhereNobodyAnswers) {

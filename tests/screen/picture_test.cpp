@@ -1,10 +1,6 @@
-#include <filesystem>
 #include <gtest/gtest.h>
 
-#include "outside/ado/error.h"
-#include "outside/ado/stream.h"
 #include "outside/screen/picture_file.h"
-#include "tests/screen/sample_form.h"
 
 namespace korvantes::screen {
 namespace {
@@ -32,34 +28,6 @@ TEST(Pictures, TellTheirSizeByTheirFirstBytes) {
       EXPECT_FALSE(pictureSize(bytes(file.substr(0, cut)))) << file << " " << cut;
   }
   EXPECT_FALSE(pictureSize(bytes("%PDF-1.4 no es una imagen")));
-}
-
-TEST(Pictures, AreLoadedAndSavedAsTheyAre) {
-  Stage stage;
-  SampleForm form;
-  Image image(form, "imgAgente");
-  CommonDialog dialog(form, "dlgFichero");
-  const std::string folder = testing::TempDir();
-  const std::string path = folder + "korvantes_muestra.gif";
-  ado::Stream file;
-  file.Write(bytes(kGif));
-  file.SaveToFile(path);
-  stage.onFile = [&](const FileDialog&) { return path; };
-  ASSERT_TRUE(dialog.ShowOpen());
-  image.Picture = stage.loadPicture(dialog.FileName());
-  EXPECT_EQ(image.Picture.print(), "320 x 240");
-  stage.savePicture(image.Picture(), folder + "korvantes_copia.bmp");
-  EXPECT_EQ(stage.loadPicture(folder + "korvantes_copia.bmp").file(), bytes(kGif));
-  image.Picture = Picture();
-  EXPECT_EQ(image.Picture.print(), "(ninguna)");
-  EXPECT_THROW(stage.savePicture(Picture(), path), ado::Error);
-  EXPECT_THROW(stage.loadPicture(folder + "no_existe.bmp"), ado::Error);
-  ado::Stream text;
-  text.Write(bytes("texto"));
-  text.SaveToFile(path);
-  EXPECT_THROW(stage.loadPicture(path), ado::Error);
-  std::filesystem::remove(path);
-  std::filesystem::remove(folder + "korvantes_copia.bmp");
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ class Stage : public HeadlessDesktop {
     makeCurrent(this);
     onMessage = [this](const MessageBox& box) {
       messages.push_back(box.title + " | " + box.text);
-      return Reply<Answer>{box.defaultAnswer(), answerByEnter};
+      return Reply<Answer>{box.defaultAnswer()};
     };
   }
   /// Shows the form, lets the user act on it and closes it. What happened before is forgotten.
@@ -94,7 +94,6 @@ class Stage : public HeadlessDesktop {
   void press(std::string_view name) { stroke(keyNamed(name).value()); }
 
   Log messages;
-  bool answerByEnter = false;
 };
 
 }  // namespace korvantes::screen

@@ -56,18 +56,5 @@ TEST(TabOrder, SkipsWhatCannotTakeTheFocus) {
   EXPECT_EQ(form.nextTabStop(nullptr), nullptr);
 }
 
-TEST(TabOrder, IsWalkedByTabAndBackwardWithShift) {
-  Stage stage;
-  SampleForm form;
-  stage.play(form, [&] {
-    form.second.Enabled = false;
-    stage.press("Tab");
-    EXPECT_EQ(form.ActiveControl(), &form.check);
-    stage.press("Mayús+Tab");
-    stage.press("Mayús+Tab");
-    EXPECT_EQ(form.ActiveControl(), &form.list);
-  });
-}
-
 }  // namespace
 }  // namespace korvantes::screen
