@@ -136,7 +136,8 @@ TEST(DataGrids, ShareTheCurrentRowWithTheirRecordset) {
     EXPECT_EQ(rows.position(), 1U);
     Face face;
     form.observe(&face);
-    rows.MoveFirst();
+    form.button.Click = [&] { rows.MoveFirst(); };
+    stage.user().click(form.button);
     EXPECT_EQ(grid.currentRow(), 0U);
     EXPECT_THAT(face.heard, testing::Contains("dbgLiqui rows"));
     form.observe(nullptr);
