@@ -5,13 +5,10 @@
 namespace korvantes::ado {
 namespace {
 
-TEST(DateTest, ReadsDaysFirstWithBlanksBehind) {
+TEST(DateTest, ReadsDaysThatExistFirstWithBlanksBehind) {
   EXPECT_EQ(Date::parseDayFirst("28/02/2026"), (Date{2026, 2, 28}));
   EXPECT_EQ(Date::parseDayFirst("1/2/2024 "), (Date{2024, 2, 1}));
   EXPECT_EQ(Date::parseDayFirst("29/02/2000"), (Date{2000, 2, 29}));
-}
-
-TEST(DateTest, RefusesDaysThatDoNotExistAndOtherForms) {
   for (const char* text :
        {"", "31/02/2026", "29/02/1900", "0/1/2026", "1/13/2026", "01/01/0000", " 1/2/2024",
         "1/2/24", "001/2/2024", "1-2-2024", "2024/02/01", "1/2/2024x", "1/2/20245"}) {

@@ -7,24 +7,15 @@ namespace korvantes::ado {
 namespace {
 
 Recordset people() {
+  std::vector<Variant> rows{1.0, "Muñoz", Decimal(105000, 4), Date{2024, 1, 31}};
+  rows.insert(rows.end(), {2.0, "O'Neill", {}, Date{2025, 1, 1}});
+  rows.insert(rows.end(), {3.0, "muñoz ", Decimal(200000, 4), {}});
   const auto fields = std::make_shared<const std::vector<FieldDefinition>>(
       std::vector<FieldDefinition>{{"Id", FieldType::Double, 0, 0},
                                    {"Nombre", FieldType::VarChar, 40, 0},
                                    {"Base", FieldType::Currency, 0, 4},
                                    {"Alta", FieldType::Date, 0, 0}});
-  return {fields,
-          {1.0,
-           "Muñoz",
-           Decimal(105000, 4),
-           Date{2024, 1, 31},  //
-           2.0,
-           "O'Neill",
-           {},
-           Date{2025, 1, 1},  //
-           3.0,
-           "muñoz ",
-           Decimal(200000, 4),
-           {}}};
+  return {fields, std::move(rows)};
 }
 
 TEST(FindTest, StopsAtTheFirstMatchFromTheCurrentRowOn) {
@@ -53,7 +44,7 @@ TEST(FindTest, StopsAtTheFirstMatchFromTheCurrentRowOn) {
   }
 }
 
-TEST(FindTest, SkipsAndSearchesBackward) {
+TEST(FindTest, SkipsSearchesBackwardAndStartsFromARowIfThereIsOne) {
   Recordset rows = people();
   rows.Find("Nombre = 'muñoz'", 1);
   EXPECT_EQ(rows.position(), 2U);
@@ -64,16 +55,11 @@ TEST(FindTest, SkipsAndSearchesBackward) {
   rows.MoveFirst();
   rows.Find("Id = 1", 999'999);
   EXPECT_TRUE(rows.isEOF());
-}
-
-TEST(FindTest, NeedsARowToStartFromUnlessThereIsNone) {
-  Recordset rows = people();
-  rows.Find("Id = 9");
-  EXPECT_THROW(rows.Find("Id = 1"), Error);
+  EXPECT_THROW(rows.Find("Id = 1"), Error);  // no row to start from
   Recordset empty;
-  empty.Fields().Append("Fav_Id", FieldType::Double);
+  empty.Fields().Append("Id", FieldType::Double);
   empty.Open();
-  empty.Find("Fav_Id = 12");
+  empty.Find("Id = 12");
   EXPECT_TRUE(empty.isEOF());
 }
 

@@ -1,8 +1,10 @@
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 #include "outside/ado/error.h"
+#include "outside/ado/system_words.h"
 #include "outside/ado/text_order.h"
 #include "outside/ado/utf8.h"
 
@@ -92,6 +94,13 @@ TEST(ErrorTest, TheSubjectIsOneShortLine) {
   const std::string many = subjectOf("insert into Age values ('" + std::string(500, 'x'));
   EXPECT_EQ(many.size(), 60U);
   EXPECT_EQ(subjectOf(std::string(59, 'a') + "ñandú"), std::string(59, 'a') + "ñ");
+}
+
+TEST(SystemWords, AreSpanishOrTellTheNumber) {
+  EXPECT_EQ(systemWords(ENOSPC), "el disco está lleno");
+  EXPECT_EQ(systemWords(EACCES), systemWords(EPERM));
+  EXPECT_EQ(systemWords(std::make_error_code(std::errc::no_such_file_or_directory)), "no existe");
+  EXPECT_EQ(systemWords(EPROTO), "error " + std::to_string(EPROTO) + " del sistema");
 }
 
 }  // namespace
