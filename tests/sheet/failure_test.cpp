@@ -1,17 +1,15 @@
-#include <algorithm>
 #include <clocale>
-#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <iterator>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "tests/sheet/sheet_world.h"
+#include "tests/support/full_disk.h"
 
 /// The C library never frees the folders of LOCPATH.
 extern "C" const char* __lsan_default_suppressions() {
@@ -35,15 +33,6 @@ std::string contents(const fs::path& file) {
 
 void put(const fs::path& file, const std::string& text) {
   std::ofstream(file, std::ios::binary) << text;
-}
-
-/// The largest file that this process may write: a full disk for one file.
-void limitFileSize(rlim_t bytes) {
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limit{};
-  ::getrlimit(RLIMIT_FSIZE, &limit);
-  limit.rlim_cur = std::min(bytes, limit.rlim_max);
-  ::setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 TEST(SpreadsheetFile, IsNotTouchedWhenItCannotBeReplaced) {
@@ -74,7 +63,7 @@ TEST(SpreadsheetFile, IsNotTouchedWhenItCannotBeReplaced) {
   };
   for (const auto& each : targets) {
     world.target = each.target;
-    EXPECT_THAT(failureOf([&] { world.exportList(); }), HasSubstr(each.words));
+    EXPECT_THAT(support::failureOf([&] { world.exportList(); }), HasSubstr(each.words));
   }
   ::close(opened);
   EXPECT_EQ(world.rowsWritten, std::nullopt);
@@ -93,9 +82,11 @@ TEST(SpreadsheetFile, IsWholeOrTheOldOneWhereverTheDiskIsFull) {
   int failures = 0, successes = 0;
   for (std::uintmax_t limit = 512; successes < 3; limit += 512) {
     put(*world.target, "viejo");
-    limitFileSize(limit);
-    const std::string failure = failureOf([&] { world.exportList(); });
-    limitFileSize(RLIM_INFINITY);
+    std::string failure;
+    {
+      const support::FullDisk disk(limit);
+      failure = support::failureOf([&] { world.exportList(); });
+    }
     ASSERT_THAT(world.filesInFolder(), ElementsAre("hoja.xlsx")) << limit;
     if (failure.empty()) {
       // Times in it may pack a little shorter or longer.
@@ -128,7 +119,7 @@ TEST(SpreadsheetFile, ReplacesAnOldOneAndKeepsItsPermissionsAndLink) {
 TEST(SpreadsheetFile, IsNotThereWhenTheUserThinksBetterOfIt) {
   SheetWorld world;
   world.target.reset();
-  EXPECT_EQ(failureOf([&] { world.exportList(); }), "");
+  EXPECT_EQ(support::failureOf([&] { world.exportList(); }), "");
   EXPECT_EQ(world.suggested, "Albaranes de la liquidación.xlsx");
   EXPECT_EQ(world.rowsWritten, std::nullopt);
   EXPECT_THAT(world.filesInFolder(), IsEmpty());

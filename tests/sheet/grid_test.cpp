@@ -19,6 +19,12 @@ ado::Recordset result(std::vector<ado::FieldDefinition> fields, std::vector<Vari
 }
 
 ado::Recordset settlements() {
+  std::vector<Variant> cells{
+      7,      "Peña", Date{2026, 6, 30}, Decimal::money(1234567891), 0.1, Decimal(350, 2),
+      "A/12", true,   ado::Bytes(3)};
+  cells.insert(cells.end(),
+               {8, "Núñez", Date{1899, 1, 2}, Decimal::money(-1000), 0.2, {}, {}, false, {}});
+  cells.insert(cells.end(), {9, {}, {}, {}, {}, Decimal(0, 2), "A/13", {}, {}});
   return result({{"Lca_Id", FieldType::Integer},
                  {"Age_Nom", FieldType::VarChar, 50},
                  {"Lca_Fecha", FieldType::Date},
@@ -28,33 +34,7 @@ ado::Recordset settlements() {
                  {"Albaran", FieldType::VarChar},
                  {"Cobrada", FieldType::Boolean},
                  {"Foto", FieldType::LongVarBinary}},
-                {7,
-                 "Peña",
-                 Date{2026, 6, 30},
-                 Decimal::money(1234567891),
-                 0.1,
-                 Decimal(350, 2),
-                 "A/12",
-                 true,
-                 ado::Bytes(3),  //
-                 8,
-                 "Núñez",
-                 Date{1899, 1, 2},
-                 Decimal::money(-1000),
-                 0.2,
-                 Variant(),
-                 Variant(),
-                 false,
-                 Variant(),  //
-                 9,
-                 Variant(),
-                 Variant(),
-                 Variant(),
-                 Variant(),
-                 Decimal(0, 2),
-                 "A/13",
-                 Variant(),
-                 Variant()});
+                std::move(cells));
 }
 
 TEST(GridToExcel, WritesTheVisibleColumnsInTheirFormats) {
@@ -110,7 +90,7 @@ TEST(GridToExcel, RefusesMoreRowsThanASheetHasBeforeItAsksForAFile) {
   SheetWorld world;
   const ado::Recordset rows =
       result({{"n", FieldType::Integer}}, std::vector<Variant>(1'048'571, Variant(1)));
-  EXPECT_THAT(failureOf([&] { world.exportGrid(rows); }),
+  EXPECT_THAT(support::failureOf([&] { world.exportGrid(rows); }),
               HasSubstr("admite 1048570 filas y el listado tiene 1048571"));
   EXPECT_EQ(world.suggested, "");
 }
@@ -131,7 +111,7 @@ TEST(Spreadsheet, RefusesOtherMembersAndArgumentsInWords) {
       {"GridToExcel", {Argument(closed), grid}, "está cerrado"},
   };
   for (const auto& each : calls)
-    EXPECT_THAT(failureOf([&] { world.sheets.call(each.method, each.arguments); }),
+    EXPECT_THAT(support::failureOf([&] { world.sheets.call(each.method, each.arguments); }),
                 HasSubstr(each.words));
   EXPECT_THROW(world.sheets.set("sTitle", Variant("x")), ado::Error);
   EXPECT_EQ(world.suggested, "");

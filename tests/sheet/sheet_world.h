@@ -4,16 +4,15 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "office/sheet/spreadsheet.h"
-#include "outside/ado/error.h"
 #include "outside/screen/form.h"
 #include "outside/screen/headless_desktop.h"
+#include "tests/support/failure.h"
 #include "tests/support/temporary_folder.h"
 
 namespace korvantes::office {
@@ -79,15 +78,5 @@ struct SheetWorld : SheetOutlet {
     return names;
   }
 };
-
-/// Words of the ado::Error that an action ends with; "" for none.
-inline std::string failureOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const ado::Error& error) {
-    return error.what();
-  }
-  return {};
-}
 
 }  // namespace korvantes::office
