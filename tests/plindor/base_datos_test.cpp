@@ -87,9 +87,5 @@ TEST_F(BaseDatosTest, GivesTheWordsOfTheEngineWhenAStatementFails) {
   EXPECT_EQ(error, "");
 }
 
-TEST(BaseDatos, NeedsAConnection) {
-  EXPECT_THROW(BaseDatos{nullptr}, ado::Error);
-}
-
 }  // namespace
 }  // namespace korvantes::plindor
