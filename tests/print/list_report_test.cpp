@@ -114,10 +114,5 @@ TEST(ListReport, AddsUpSettlementsAgentsAndTheWhole) {
   EXPECT_GT(count(text, "(continuación)"), 5U);
 }
 
-TEST(ListReport, SaysThatThereIsNoRow) {
-  PrintWorld world;
-  EXPECT_THAT(show(world, emptyRows()), HasSubstr("No hay datos"));
-}
-
 }  // namespace
 }  // namespace korvantes::office

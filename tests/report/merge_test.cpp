@@ -27,26 +27,10 @@ struct Note {
 ado::Recordset merged(const std::vector<Note>& notes) {
   std::vector<ado::Variant> cells;
   for (const Note& note : notes) {
-    const std::vector<ado::Variant> row{note.invoice,
-                                        note.settlement,
-                                        note.agentName,
-                                        note.date,
-                                        note.number,
-                                        kMay,
-                                        note.customer,
-                                        "A",
-                                        12,
-                                        430,
-                                        note.customer,
-                                        note.agent,
-                                        note.taxNumber,
-                                        cents(1),
-                                        cents(2),
-                                        cents(3),
-                                        cents(4),
-                                        note.gross,
-                                        note.commission};
-    cells.insert(cells.end(), row.begin(), row.end());
+    cells.insert(cells.end(),
+                 {note.invoice, note.settlement, note.agentName, note.date, note.number, kMay,
+                  note.customer, "A", 12, 430, note.customer, note.agent, note.taxNumber, cents(1),
+                  cents(2), cents(3), cents(4), note.gross, note.commission});
   }
   return facturasDe(
       support::resultOf(

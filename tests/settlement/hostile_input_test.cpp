@@ -1,3 +1,4 @@
+#include <array>
 #include <gmock/gmock.h>
 #include <regex>
 #include <set>
@@ -20,21 +21,9 @@ std::set<std::string> shapes(const World& world) {
   return result;
 }
 
-constexpr const char* kHostile[] = {"'",
-                                    "5' OR '1'='1",
-                                    "5;delete from Lca",
-                                    "5--",
-                                    "1,5",
-                                    "5e0",
-                                    "999999999999999999999",
-                                    "0",
-                                    "31/02/2026",
-                                    "1'1'26",
-                                    "24/11/2026' OR 1=1 --",
-                                    "ñandú",
-                                    "\xC3",
-                                    "a\nb\tc",
-                                    "№①"};
+constexpr auto kHostile = std::to_array<const char*>(
+    {"'", "1,5", "5e0", "0", "5--", "5' OR '1'='1", "5;delete from Lca", "24/11/2026' OR 1=1 --",
+     "ñandú", "№①", "\xC3", "a\nb\tc", "31/02/2026", "1'1'26", "999999999999999999999"});
 
 /// Settles one note, with these texts in the fields that go into statements. A wrong code or date
 /// is put right afterwards, as its user would.

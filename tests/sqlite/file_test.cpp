@@ -4,8 +4,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "engines/sqlite/sqlite_connection.h"
 #include "tests/sqlite/engine_fixture.h"
+#include "tests/support/failure.h"
 
 namespace korvantes::testing_engines {
 namespace {
@@ -19,12 +19,7 @@ const OpenOptions kCreate{true, 20};
 class SqliteFileTest : public testing::Test {
  protected:
   void refuse(const std::string& path, OpenOptions options = {}) {
-    try {
-      const SqliteConnection connection(path, options);
-      ADD_FAILURE() << "opened " << path;
-    } catch (const ado::Error& error) {
-      EXPECT_NE(std::string(error.what()), "");
-    }
+    EXPECT_NE(support::failureOf([&] { SqliteConnection(path, options); }), "") << path;
   }
   void makeBase() {
     SqliteConnection connection(path_, kCreate);
@@ -96,15 +91,8 @@ TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanishWithSqlitesWords) {
   SqliteConnection first(path_, kCreate);
   SqliteConnection second(path_, kCreate);
   first.BeginTrans();
-  try {
-    second.BeginTrans();
-    FAIL();
-  } catch (const ado::Error& error) {
-    constexpr long kBusy = 5;
-    EXPECT_EQ(error.number(), kBusy);
-    EXPECT_STREQ(error.what(),
-                 "La base de datos está ocupada por otro usuario (database is locked)");
-  }
+  EXPECT_EQ(support::failureOf([&] { second.BeginTrans(); }),
+            "La base de datos está ocupada por otro usuario (database is locked)");
 }
 
 TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {
