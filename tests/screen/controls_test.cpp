@@ -8,8 +8,12 @@
 namespace korvantes::screen {
 namespace {
 
-TEST(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
-  SampleForm form;
+using ComboBoxes = OnStage;
+using Controls = OnStage;
+using DataGrids = OnStage;
+using Faces = OnStage;
+
+TEST_F(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
   ControlArray<TextBox> fields(form, "txtFields");
   fields.add(0);
   fields.add(7);
@@ -21,8 +25,7 @@ TEST(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
   EXPECT_EQ(form.findControl("cmdgrabar"), &form.button);
 }
 
-TEST(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
-  SampleForm form;
+TEST_F(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
   OptionButton yes(form, "Option1", 0), no(form, "Option1", 1);
   int clicks = 0;
   yes.Click = no.Click = [&] { ++clicks; };
@@ -36,8 +39,7 @@ TEST(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
   EXPECT_EQ(form.log, (Log{"Text1(0) Change x", "Check1 Click"}));
 }
 
-TEST(ComboBoxes, SelectEntriesAndRefuseWhatIsNone) {
-  SampleForm form;
+TEST_F(ComboBoxes, SelectEntriesAndRefuseWhatIsNone) {
   form.combo.AddItem("01 - Uno");
   form.combo.AddItem("02 - Dos");
   form.combo.ListIndex = 1;
@@ -56,9 +58,7 @@ TEST(ComboBoxes, SelectEntriesAndRefuseWhatIsNone) {
   EXPECT_EQ(form.taken(), Log{});
 }
 
-TEST(ComboBoxes, TakeTypingWhereTheyAreEditable) {
-  Stage stage;
-  SampleForm form;
+TEST_F(ComboBoxes, TakeTypingWhereTheyAreEditable) {
   form.combo.AddItem("01 - Uno");
   form.combo.Change = [&] { form.log.push_back("Change " + form.combo.Text()); };
   stage.play(form, [&] {
@@ -89,8 +89,7 @@ struct Face : FormObserver {
   Log heard;
 };
 
-TEST(Faces, HearOfRealChangesAlone) {
-  SampleForm form;
+TEST_F(Faces, HearOfRealChangesAlone) {
   Face face;
   form.observe(&face);
   form.Caption = "Muestra";
@@ -100,7 +99,6 @@ TEST(Faces, HearOfRealChangesAlone) {
   form.combo.AddItem("x");
   EXPECT_EQ(face.heard,
             (Log{"form.Caption", "cmdGrabar.Enabled", "cboPais.ListCount", "cboPais rows"}));
-  Stage stage;
   stage.play(form, [&] {
     face.heard.clear();
     stage.user().moveFocus(form.list);
@@ -108,9 +106,7 @@ TEST(Faces, HearOfRealChangesAlone) {
   EXPECT_EQ(face.heard, (Log{"active", "unloaded"}));
 }
 
-TEST(DataGrids, ShareTheCurrentRowWithTheirRecordset) {
-  Stage stage;
-  SampleForm form;
+TEST_F(DataGrids, ShareTheCurrentRowWithTheirRecordset) {
   DataGrid grid(form, "dbgLiqui");
   ado::Recordset rows;
   rows.Fields().Append("Id", ado::FieldType::Integer);

@@ -6,11 +6,7 @@
 namespace korvantes::screen {
 namespace {
 
-class EventOrder : public testing::Test {
- protected:
-  Stage stage;
-  SampleForm form;
-};
+using EventOrder = OnStage;
 
 TEST_F(EventOrder, OfShowingIsLoadThenTheFocusThatItAskedForOrTheFirstTabStop) {
   form.load = [&] { form.log.push_back("load"); };

@@ -5,7 +5,9 @@
 namespace korvantes::screen {
 namespace {
 
-TEST(Keys, AreNamedAsScriptsNameThem) {
+using Keys = OnStage;
+
+TEST(KeyNames, AreThoseThatScriptsUse) {
   using namespace key;
   const struct {
     const char* name;
@@ -37,9 +39,7 @@ TEST(Keys, AreNamedAsScriptsNameThem) {
     EXPECT_FALSE(keyNamed(name)) << name;
 }
 
-TEST(Keys, PressButtonsAndBoxes) {
-  Stage stage;
-  SampleForm form;
+TEST_F(Keys, PressButtonsAndBoxes) {
   stage.play(form, [&] {
     stage.user().moveFocus(form.button);
     form.taken();
@@ -61,9 +61,7 @@ TEST(Keys, PressButtonsAndBoxes) {
   });
 }
 
-TEST(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
-  Stage stage;
-  SampleForm form;
+TEST_F(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
   Label label(form, "Label1");
   label.Caption = "Se&gundo";
   label.TabIndex = 1;
@@ -86,9 +84,7 @@ TEST(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
   EXPECT_EQ(captionWithoutMark(form.button.Caption()), "Búsqueda & más");
 }
 
-TEST(Keys, MoveThroughEntriesAndGroups) {
-  Stage stage;
-  SampleForm form;
+TEST_F(Keys, MoveThroughEntriesAndGroups) {
   Frame frame(form, "Frame1");
   ControlArray<OptionButton> options(form, "Option1");
   for (const int index : {0, 1, 5}) options.add(index).container(index == 5 ? nullptr : &frame);

@@ -8,7 +8,7 @@
 namespace korvantes::screen {
 namespace {
 
-class ListViews : public testing::Test {
+class ListViews : public OnStage {
  protected:
   ListViews() {
     form.list.ColumnHeaders = {{"Factura"}, {"Importe"}};
@@ -27,8 +27,6 @@ class ListViews : public testing::Test {
     }
     return texts;
   }
-  Stage stage;
-  SampleForm form;
 };
 
 TEST_F(ListViews, SortByTheTextOfAColumnAndKeepEqualRowsInOrder) {

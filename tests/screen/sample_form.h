@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -94,6 +95,13 @@ class Stage : public HeadlessDesktop {
   void press(std::string_view name) { stroke(keyNamed(name).value()); }
 
   Log messages;
+};
+
+/// A test with a form on a stage.
+class OnStage : public testing::Test {
+ protected:
+  Stage stage;
+  SampleForm form;
 };
 
 }  // namespace korvantes::screen

@@ -6,7 +6,7 @@
 namespace korvantes::screen {
 namespace {
 
-class Typing : public testing::Test {
+class Typing : public OnStage {
  protected:
   /// Plays strokes ("a", "Inicio", "Mayús+Derecha" …, blanks between) on a box that holds a text,
   /// and gives the text with the caret as | and the selection as [].
@@ -28,9 +28,6 @@ class Typing : public testing::Test {
     });
     return seen;
   }
-
-  Stage stage;
-  SampleForm form;
 };
 
 TEST_F(Typing, EditsAtTheCaretAsATextFieldDoes) {
