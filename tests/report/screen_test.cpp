@@ -103,5 +103,36 @@ TEST(SearchScreen, ReportAndSpreadsheetGetTheLastResultUnderTheDatesOnScreen) {
   });
 }
 
+/// Widths of the columns on screen, from left to right.
+std::vector<int> widths(const SearchScreen& screen) {
+  const auto& grid = screen.control<screen::DataGrid>("dbgLiqui");
+  std::vector<int> shown;
+  for (std::size_t column = 0; column < grid.ColumnCount(); ++column)
+    if (grid.Columns(column).Visible) shown.push_back(grid.Columns(column).Width);
+  return shown;
+}
+
+TEST(SearchScreen, EachShapeHasTheWidthsOfItsOwnWhateverWasShownBefore) {
+  World world;
+  settleTwoNotes(world);
+  show(world, [](SearchScreen& screen) {
+    struct Case {
+      Forma forma;
+      bool bPorFecha;
+      std::vector<int> widths;
+    };
+    for (const Case& each :
+         {Case{Forma::Albaran, true, {2700, 1100, 1000, 1100, 2500, 900, 2000, 900, 700, 800}},
+          Case{Forma::Factura, true, {4000, 1100, 1000, 1100, 3800, 1100, 900, 700}},
+          Case{Forma::Albaran, false, {2700, 1100, 2500, 1000, 1100, 900, 2000, 900, 700, 800}},
+          Case{Forma::Factura, false, {4000, 1100, 3800, 1000, 1100, 1100, 900, 700}},
+          Case{Forma::Resumen, true, {6900, 1800, 1300, 1300, 1300, 1300}}}) {
+      screen.choose(each.forma, each.bPorFecha);
+      screen.search();
+      EXPECT_EQ(widths(screen), each.widths);
+    }
+  });
+}
+
 }  // namespace
 }  // namespace korvantes::report
