@@ -111,7 +111,7 @@ void PrintPreview::print() {
 
 void PrintPreview::savePdf() {
   const auto file = desktop_.askWhereToSave(
-      {"Guardar como PDF", "Documentos PDF|*.pdf", "pdf", document_.suggestedName + ".pdf"});
+      {"Guardar como PDF", "Documentos PDF|*.pdf", "pdf", document_.title + ".pdf"});
   if (file) document_.savePdf(*file);
 }
 

@@ -17,10 +17,9 @@ class QtDesktop;
 
 /// A document to be looked at, printed and saved. It is painted as often as that takes.
 struct PrintDocument {
-  std::string title;
-  std::string suggestedName;                                  ///< without folder and extension
-  std::function<void(QPrinter&)> setUp;                       ///< paper and margins
-  std::function<void(QPrinter&)> paint;                       ///< all pages
+  std::string title;                     ///< of the window, and the file name that a save offers
+  std::function<void(QPrinter&)> setUp;  ///< paper and margins
+  std::function<void(QPrinter&)> paint;  ///< all pages
   std::function<void(const std::filesystem::path&)> savePdf;  ///< failures are exceptions
 };
 

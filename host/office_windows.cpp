@@ -18,8 +18,7 @@ class PreviewReportOutlet : public office::ReportOutlet {
   explicit PreviewReportOutlet(desktop::QtDesktop& desktop) : desktop_(desktop) {}
 
   void deliver(std::shared_ptr<const office::Report> report) override {
-    desktop_.preview({report->title(), report->suggestedName(),
-                      [report](QPrinter& printer) { report->setUp(printer); },
+    desktop_.preview({report->title(), [report](QPrinter& printer) { report->setUp(printer); },
                       [report](QPrinter& printer) { report->paint(printer); },
                       [report](const auto& file) { office::writePdf(*report, file); }});
   }

@@ -32,10 +32,9 @@ class Report {
   virtual ~Report() = default;
   virtual int number() const = 0;  ///< 11 one settlement, 12 a list of settlements
   virtual std::size_t rows() const = 0;
-  /// "Liquidación 13": for a window and the document's own title.
+  /// "Liquidación 13": for a window and the document's own title, and as a file name without folder
+  /// and extension.
   virtual std::string title() const = 0;
-  /// A file name without folder and extension.
-  virtual std::string suggestedName() const = 0;
   /// Sets A4 and the margins on the device. A device keeps them only when told before painting.
   virtual void setUp(QPagedPaintDevice& device) const = 0;
   /// Paints all pages, from the first to the last, on a device that was set up.

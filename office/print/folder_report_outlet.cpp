@@ -14,7 +14,7 @@ FolderReportOutlet::~FolderReportOutlet() = default;
 
 void FolderReportOutlet::deliver(std::shared_ptr<const Report> report) {
   if (!OffscreenApplication::exists()) application_ = std::make_unique<OffscreenApplication>();
-  const std::filesystem::path file = folder_->fileFor(report->suggestedName() + ".pdf");
+  const std::filesystem::path file = folder_->fileFor(report->title() + ".pdf");
   writePdf(*report, file);
   if (written_) written_(report->number(), report->rows(), file);
 }

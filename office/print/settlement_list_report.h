@@ -18,7 +18,6 @@ class SettlementListReport : public PagedReport {
   int number() const override { return 12; }
   std::size_t rows() const override { return list_.rows.RecordCount(); }
   std::string title() const override { return "Liquidaciones de comisiones a agentes"; }
-  std::string suggestedName() const override { return "liquidaciones"; }
 
  protected:
   void write(PageFlow& flow) const override;

@@ -42,10 +42,6 @@ std::string SettlementReport::title() const {
   return settlement_ ? "Liquidación " + std::to_string(settlement_->number) : "Liquidación";
 }
 
-std::string SettlementReport::suggestedName() const {
-  return settlement_ ? "liquidacion_" + std::to_string(settlement_->number) : "liquidacion";
-}
-
 void SettlementReport::write(PageFlow& flow) const {
   writeHead(flow);
   if (!settlement_) return;

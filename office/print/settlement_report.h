@@ -23,7 +23,6 @@ class SettlementReport : public PagedReport {
   int number() const override { return 11; }
   std::size_t rows() const override { return rows_; }
   std::string title() const override;
-  std::string suggestedName() const override;
 
  protected:
   void write(PageFlow& flow) const override;

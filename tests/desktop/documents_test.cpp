@@ -56,7 +56,7 @@ class Documents : public testing::Test {
       press(window, "Escape");
       EXPECT_FALSE(window.isVisible());
     });
-    desktop_.preview({"Liquidación 13", "Liquidacion_13", [](QPrinter&) {},
+    desktop_.preview({"Liquidación 13", [](QPrinter&) {},
                       [this](QPrinter& printer) {
                         QPainter painter(&printer);
                         for (int page = 1; page <= 30; ++page) {
@@ -121,7 +121,7 @@ TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
     auto& save = button(window, "&Guardar como PDF…");
     whenAskedToSave({});
     save.click();
-    EXPECT_EQ(fs::path(suggested_).filename(), "Liquidacion_13.pdf");
+    EXPECT_EQ(fs::path(suggested_).filename(), "Liquidación 13.pdf");
     whenAskedToSave("lleno");
     save.click();
     EXPECT_THAT(messages_, ElementsAre("No queda sitio."));
@@ -131,7 +131,7 @@ TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
     EXPECT_TRUE(fs::exists(path("bien.pdf")));
     whenAskedToSave({});
     save.click();
-    EXPECT_EQ(suggested_, path("Liquidacion_13.pdf")) << "the folder used last";
+    EXPECT_EQ(suggested_, path("Liquidación 13.pdf")) << "the folder used last";
   });
 }
 
@@ -148,7 +148,6 @@ TEST_F(Documents, EnterOnAMessageAboveThePreviewIsNoKeyOfTheForm) {
 
 TEST_F(Documents, PagesThatCannotBePaintedAreTheCallersMatter) {
   EXPECT_THROW(desktop_.preview({"",
-                                 "",
                                  [](QPrinter&) {},
                                  [](QPrinter&) { throw std::runtime_error("no hay páginas"); },
                                  {}}),

@@ -170,7 +170,7 @@ TEST_F(HostTest, PlaysTheSampleSettlementAgainAndAgainOnABaseOfItsOwn) {
   const Outcome first = run({"--salida", path("out")});
   EXPECT_EQ(first.status, 0) << first.err;
   EXPECT_NE(first.out.find("concluido satisfactoriamente"), std::string::npos);
-  EXPECT_EQ(fs::exists(path("out/liquidacion_14.pdf")), hasWindows());
+  EXPECT_EQ(fs::exists(path("out/Liquidación 14.pdf")), hasWindows());
   EXPECT_EQ(run({"--salida", path("out")}).out, first.out);
   EXPECT_FALSE(fs::exists(path("datos")));
   // A display that does not answer is none.

@@ -71,7 +71,7 @@ TEST(ReportFiles, ThatCannotBeWrittenLeaveTheOldOneAndNothingElse) {
   // Full at the first words, and where only the last of them are still to be written.
   for (const rlim_t limit : {4'000U, 30'000U}) {
     const std::string file =
-        world.file(limit == 4'000U ? "liquidacion_1.pdf" : "liquidacion_1-2.pdf");
+        world.file(limit == 4'000U ? "Liquidación 1.pdf" : "Liquidación 1-2.pdf");
     std::ofstream(file) << "antes";
     const support::FullDisk disk(limit);
     EXPECT_THAT(failureOf([&] { world.settlementText(number); }),
@@ -80,14 +80,14 @@ TEST(ReportFiles, ThatCannotBeWrittenLeaveTheOldOneAndNothingElse) {
   }
   EXPECT_EQ(filesIn(world.file("")), 2U);
 
-  std::filesystem::create_directory(world.file("liquidacion.pdf"));
+  std::filesystem::create_directory(world.file("Liquidación.pdf"));
   EXPECT_THAT(failureOf([&] { world.settlementText(9); }),
-              HasSubstr("liquidacion.pdf: es una carpeta"));
+              HasSubstr("Liquidación.pdf: es una carpeta"));
   EXPECT_EQ(filesIn(world.file("")), 3U);
   EXPECT_TRUE(world.delivered.empty());
 
   world.settlementText(9);
-  EXPECT_EQ(world.delivered.back().file, world.file("liquidacion-2.pdf"));
+  EXPECT_EQ(world.delivered.back().file, world.file("Liquidación-2.pdf"));
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ TEST(SettlementReport, ShowsTheSettlementAsItIsStored) {
   EXPECT_THAT(text, HasSubstr("Pagar por banco"));
   EXPECT_EQ(lineWith(text, "Página"), "Liquidación 1 · Impreso el 24/11/2026 Página 1 de 1");
   EXPECT_THAT(text, Not(HasSubstr("ha cambiado")));
-  EXPECT_EQ(world.delivered.back().file, world.file("liquidacion_1.pdf"));
+  EXPECT_EQ(world.delivered.back().file, world.file("Liquidación 1.pdf"));
 }
 
 TEST(SettlementReport, ShowsTwoThousandNotesToTheCent) {
