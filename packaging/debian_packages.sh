@@ -3,7 +3,7 @@
 # afterwards stays clean.
 
 build_packages=(g++ cmake ninja-build pkg-config libsqlite3-dev qt6-base-dev libxlsxwriter-dev
-  libminizip-dev)
+  libminizip-dev zlib1g-dev)
 run_packages=(libsqlite3-0 libqt6widgets6 libqt6printsupport6 libxlsxwriter4 libminizip1
   qt6-translations-l10n qt6-image-formats-plugins fonts-liberation)
 # poppler-utils and python3-openpyxl read back what was printed and exported.
