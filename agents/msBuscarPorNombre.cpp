@@ -11,13 +11,6 @@ namespace {
 constexpr const char* kFilas = "Select (0) as k ,AGE_ID,AGE_NOM FROM AGE";
 constexpr const char* kOrden = "AGE_NOM";
 constexpr long kAnchoCodigo = 800, kAnchoNombre = 6000;
-constexpr char kSeparador = '\x01';
-
-/// The second of the columns that the dialog joins.
-std::string codigoElegido(const std::string& fila) {
-  const std::size_t begin = fila.find(kSeparador) + 1;
-  return fila.substr(begin, fila.find(kSeparador, begin) - begin);
-}
 
 }  // namespace
 
@@ -26,7 +19,7 @@ void frmAgentes::msBuscarPorNombre() {
       oUtil->BuscaEnLista(kFilas, kOrden, "Codigo", "Nombre del Agente",
                           "Buscar Agentes por nombre", kAnchoCodigo, kAnchoNombre, 0);
   if (fila.size() <= 2) return;
-  const std::string sCodigo = codigoElegido(fila);
+  const std::string sCodigo = plindor::elementoDe(fila, 1);
   if (!msExisteAgente(sCodigo)) {
     screen::MsgBox("El agente " + sCodigo +
                        " se ha añadido después de leer la lista de esta pantalla. Ciérrela y "

@@ -14,11 +14,10 @@ namespace korvantes {
 
 namespace {
 
-using Place = const char*;
-constexpr Place kLastPlace = "/tmp";
+constexpr const char* kLastPlace = "/tmp";
 
 /// A folder of the user or the system's own, in which others cannot rename what is not theirs.
-bool isSafe(Place place) {
+bool isSafe(const char* place) {
   struct stat state {};
   if (place[0] != '/' || ::stat(place, &state) != 0 || !S_ISDIR(state.st_mode)) return false;
   const bool ours = state.st_uid == ::geteuid() || state.st_uid == 0;
@@ -27,7 +26,7 @@ bool isSafe(Place place) {
 }
 
 /// Path of a new folder there, made exclusively; empty, with errno, when there is none.
-std::string madeIn(Place place) {
+std::string madeIn(const char* place) {
   std::string path = std::string(place) + "/korvantes-XXXXXX";
   return ::mkdtemp(path.data()) != nullptr ? path : std::string();
 }
@@ -35,9 +34,9 @@ std::string madeIn(Place place) {
 }  // namespace
 
 PrivateFolder::PrivateFolder() {
-  const Place places[] = {std::getenv("XDG_RUNTIME_DIR"), std::getenv("TMPDIR"), kLastPlace};
+  const char* const places[] = {std::getenv("XDG_RUNTIME_DIR"), std::getenv("TMPDIR"), kLastPlace};
   int reason = EACCES;
-  for (const Place place : places) {
+  for (const char* place : places) {
     if (place == nullptr || !isSafe(place)) continue;
     path_ = madeIn(place);
     if (!path_.empty()) return;

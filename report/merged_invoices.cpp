@@ -3,8 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "outside/ado/text_order.h"
-
 namespace korvantes::report {
 
 namespace {
@@ -57,20 +55,14 @@ struct Copia {
   bool recortado;
 };
 
-std::size_t posicionDe(const ado::Recordset& rs, const char* nombre) {
-  const auto& campos = rs.definitions();
-  std::size_t posicion = 0;
-  while (posicion < campos.size() && !ado::sameName(campos[posicion].name, nombre)) ++posicion;
-  return posicion;  // past the end: Fields() says that there is no such field
-}
-
 /// Appends the fields and opens the recordset.
 std::vector<Copia> prepara(ado::Recordset& rs, const ado::Recordset& rsFilas, bool bPorFecha) {
   std::vector<Copia> copias;
   const auto agrega = [&](const Campo& campo) {
     if (campo.valor != Valor::Aparte) {
-      copias.push_back({posicionDe(rsFilas, campo.nombre), rs.Fields().Count(),
-                        campo.valor == Valor::Recortado});
+      // Past the end, Fields() says that there is no such field.
+      const std::size_t desde = rsFilas.positionOf(campo.nombre).value_or(rsFilas.Fields().Count());
+      copias.push_back({desde, rs.Fields().Count(), campo.valor == Valor::Recortado});
     }
     rs.Fields().Append(campo.nombre, campo.tipo, campo.tamano);
   };

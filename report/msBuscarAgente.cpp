@@ -11,7 +11,6 @@ namespace {
 constexpr const char* kOrigenFilas = "SELECT (0),Age_ID,Age_NOM FROM Age";
 constexpr const char* kCampoOrden = "Age_NOM";
 constexpr long kAnchoCodigo = 1300, kAnchoNombre = 6000;
-constexpr char kSeparador = '\x01';
 
 constexpr const char* kSelectAgente = "Select Age_ID,Age_NOM FROM Age where Age_Id=";
 
@@ -30,11 +29,9 @@ void frmLiquidAgentes::msBuscarAgente(const std::int32_t& nCodigo) {
     const std::string sFila = oUtil->BuscaEnLista(kOrigenFilas, kCampoOrden, "Codigo", "Nombre",
                                                   "Buscar Agentes", kAnchoCodigo, kAnchoNombre, 0);
     if (sFila.size() > 2) {
-      const std::size_t codigo = sFila.find(kSeparador) + 1;
-      const std::size_t nombre = sFila.find(kSeparador, codigo) + 1;
-      nIdAgente = screen::CLng(sFila.substr(codigo, nombre - 1 - codigo));
+      nIdAgente = screen::CLng(plindor::elementoDe(sFila, 1));
       Text1(kCodigo).Text = std::to_string(nIdAgente);
-      Text1(kNombre).Text = sFila.substr(nombre);
+      Text1(kNombre).Text = plindor::elementoDe(sFila, 2);
     } else {
       Text1(kCodigo).Text = "";
       Text1(kNombre).Text = "";

@@ -14,16 +14,9 @@ namespace {
 constexpr const char* kOrigenFilas = "Select (0), Age_ID,Age_Nom FROM Age";
 constexpr const char* kCampoOrden = "Age_Nom";
 constexpr long kAnchoCodigo = 600, kAnchoNombre = 6000;
-constexpr char kSeparador = '\x01';
 
 constexpr const char* kSelectAgente = "SELECT Age_ID,Age_NOM,Age_Reg FROM Age WHERE ";
 constexpr const char* kWhereAgente = " Age_id = ";
-
-std::string elemento(const std::string& fila, int n) {
-  std::size_t begin = 0;
-  for (; n > 0; --n) begin = fila.find(kSeparador, begin) + 1;
-  return fila.substr(begin, fila.find(kSeparador, begin) - begin);
-}
 
 }  // namespace
 
@@ -52,7 +45,7 @@ void frmNewLiquidAgentes::msBuscarAgente(std::int32_t& nAgente) {
         oUtil->BuscaEnLista(kOrigenFilas, kCampoOrden, "Codigo", "Agente",
                             "Buscar agente por nombre", kAnchoCodigo, kAnchoNombre, 0);
     if (fila.size() > 2) {
-      nAgente = screen::CLng(elemento(fila, 1));
+      nAgente = screen::CLng(plindor::elementoDe(fila, 1));
       nIdAgente = nAgente;
     } else {
       nAgente = 0;

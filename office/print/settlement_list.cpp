@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "outside/ado/error.h"
-#include "outside/ado/text_order.h"
 
 namespace korvantes::office {
 
@@ -15,15 +14,8 @@ namespace {
 /// The runtime's number for an item that a collection does not have.
 constexpr long kNoSuchItem = 3265;
 
-std::optional<std::size_t> find(const ado::Recordset& rows, std::string_view name) {
-  const std::vector<ado::FieldDefinition>& fields = rows.definitions();
-  for (std::size_t position = 0; position < fields.size(); ++position)
-    if (ado::sameName(fields[position].name, name)) return position;
-  return std::nullopt;
-}
-
 std::size_t positionOf(const ado::Recordset& rows, std::string_view name) {
-  if (const std::optional<std::size_t> position = find(rows, name)) return *position;
+  if (const std::optional<std::size_t> position = rows.positionOf(name)) return *position;
   throw ado::Error(kNoSuchItem, "El informe de liquidaciones necesita la columna «" +
                                     std::string(name) +
                                     "»: busque las liquidaciones con sus facturas y emítalo de "
@@ -33,7 +25,7 @@ std::size_t positionOf(const ado::Recordset& rows, std::string_view name) {
 ListColumns columnsOf(const ado::Recordset& rows) {
   const auto at = [&](std::string_view name) { return positionOf(rows, name); };
   // Rows by line of a delivery note bring the line's amount beside that of the whole invoice.
-  const std::optional<std::size_t> base = find(rows, "Base");
+  const std::optional<std::size_t> base = rows.positionOf("Base");
   return {at("Lca_Id"),        at("Age_Id"),
           at("Age_Nom"),       at("Age_Nif"),
           at("Lca_Fecha"),     at("Factura"),

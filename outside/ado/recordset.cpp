@@ -55,10 +55,7 @@ Field Fields::operator()(std::size_t position) const {
 }
 
 Field Fields::operator()(std::string_view name) const {
-  const auto& definitions = *owner_->cursor_->rows->definitions;
-  for (std::size_t i = 0; i < definitions.size(); ++i) {
-    if (sameName(definitions[i].name, name)) return {*owner_, i};
-  }
+  if (const auto position = owner_->positionOf(name)) return {*owner_, *position};
   throw Error(kNoSuchField, "No existe el campo " + std::string(name));
 }
 
@@ -318,6 +315,13 @@ const Variant& Recordset::cell(std::size_t row, std::size_t field) const {
   if (row >= rows.count()) noCurrentRow();
   if (field >= rows.width()) Fields()(field);  // throws
   return rows.cell(row, field);
+}
+
+std::optional<std::size_t> Recordset::positionOf(std::string_view name) const {
+  const auto& definitions = *cursor_->rows->definitions;
+  for (std::size_t i = 0; i < definitions.size(); ++i)
+    if (sameName(definitions[i].name, name)) return i;
+  return std::nullopt;
 }
 
 const std::vector<FieldDefinition>& Recordset::definitions() const {

@@ -160,6 +160,8 @@ class Recordset {
   /// A cell by position, without moving the cursor: what grids and exports read.
   const Variant& cell(std::size_t row, std::size_t field) const;
   const std::vector<FieldDefinition>& definitions() const;
+  /// Place of the first field of that name, without regard to case.
+  std::optional<std::size_t> positionOf(std::string_view name) const;
   /// The current row, from 0; nothing at BOF, EOF and while a row is being added.
   std::optional<std::size_t> position() const;
   /// Makes a row current, from 0, with the move event.

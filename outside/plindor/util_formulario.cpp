@@ -14,6 +14,8 @@ namespace korvantes::plindor {
 
 namespace {
 
+/// Between the columns of a row that BuscaEnLista gives.
+constexpr char kSeparador = 1;
 constexpr std::string_view kMascaraFecha = "dd/mm/yyyy";
 /// Below this, keys are control characters: Backspace, Tab, Enter, Escape.
 constexpr int kPrimerCaracter = 32;
@@ -172,12 +174,17 @@ std::string UtilFormulario::BuscaEnLista(const std::string& sSql, const std::str
   const auto elegida = screen::Desktop::current().chooseFromList(lista);
   if (!elegida) return {};
 
-  constexpr char kSeparador = 1;
   std::string resultado = screen::CStr(filas.cell(*elegida, 0));
   for (std::size_t columna = 1; columna < columnas; ++columna) {
     resultado += kSeparador + screen::CStr(filas.cell(*elegida, columna));
   }
   return resultado;
+}
+
+std::string elementoDe(const std::string& sFila, int nColumna) {
+  std::size_t desde = 0;
+  for (; nColumna > 0; --nColumna) desde = sFila.find(kSeparador, desde) + 1;
+  return sFila.substr(desde, sFila.find(kSeparador, desde) - desde);
 }
 
 }  // namespace korvantes::plindor

@@ -61,4 +61,7 @@ class UtilFormulario {
   ado::Connection* conexion_ = nullptr;
 };
 
+/// Column of a row that BuscaEnLista gave, from 0.
+std::string elementoDe(const std::string& sFila, int nColumna);
+
 }  // namespace korvantes::plindor
