@@ -6,8 +6,9 @@ build_packages=(g++ cmake ninja-build pkg-config libsqlite3-dev qt6-base-dev lib
   libminizip-dev zlib1g-dev)
 run_packages=(libsqlite3-0 libqt6widgets6 libqt6printsupport6 libxlsxwriter4 libminizip1
   qt6-translations-l10n qt6-image-formats-plugins fonts-liberation)
-# poppler-utils and python3-openpyxl read back what was printed and exported.
-test_packages=(libgtest-dev libgmock-dev xvfb xauth poppler-utils python3-openpyxl)
+# poppler-utils and python3-openpyxl read back what was printed and exported; locales has what a
+# language with decimal commas is made from.
+test_packages=(libgtest-dev libgmock-dev xvfb xauth poppler-utils python3-openpyxl locales)
 check_packages=(git clang-format)
 
 say() { printf '%s\n' "$*" >&2; }
