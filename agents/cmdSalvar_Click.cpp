@@ -4,11 +4,11 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
-#include "outside/ado/error.h"
-#include "outside/ado/transaction.h"
-#include "outside/ado/utf8.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/transaction.h"
+#include "runtime/ado/utf8.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes {
 

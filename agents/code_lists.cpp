@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "outside/ado/utf8.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::agents {
 

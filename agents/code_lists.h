@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "outside/ado/variant.h"
-#include "outside/screen/controls.h"
+#include "runtime/ado/variant.h"
+#include "runtime/screen/controls.h"
 
 namespace korvantes::agents {
 

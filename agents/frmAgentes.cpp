@@ -2,8 +2,8 @@
 
 #include "agents/fields.h"
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/desktop.h"
-#include "outside/screen/user_input.h"
+#include "runtime/screen/desktop.h"
+#include "runtime/screen/user_input.h"
 
 namespace korvantes {
 

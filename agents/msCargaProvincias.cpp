@@ -3,8 +3,8 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes {
 

@@ -1,5 +1,5 @@
 #include "agents/frmAgentes.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes {
 

@@ -1,6 +1,6 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
-#include "outside/screen/desktop.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes {
 

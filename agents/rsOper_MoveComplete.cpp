@@ -2,7 +2,7 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes {
 

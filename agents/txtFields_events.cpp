@@ -2,10 +2,10 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
-#include "outside/ado/utf8.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
-#include "outside/screen/letters.h"
+#include "runtime/ado/utf8.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
+#include "runtime/screen/letters.h"
 
 namespace korvantes {
 

@@ -9,8 +9,8 @@
 
 #include "bench/bench_database.h"
 #include "component/KORVAN.h"
-#include "host/headless_stage.h"
-#include "host/window_stage.h"
+#include "scripts/headless_stage.h"
+#include "scripts/window_stage.h"
 
 namespace korvantes::bench {
 
@@ -74,9 +74,9 @@ screen::Control& control(screen::Form& form, const char* identity) {
 }
 
 /// Seconds a move, from the key until the fields are filled and, where there are windows, painted.
-double moveSeconds(host::ScriptStage& stage, KORVAN& component, std::size_t moves) {
+double moveSeconds(scripts::ScriptStage& stage, KORVAN& component, std::size_t moves) {
   double seconds = 0;
-  host::ScriptStage::Cues cues;
+  scripts::ScriptStage::Cues cues;
   cues.whileShown = [&](screen::Form& form) {
     stage.moveFocus(control(form, "dboOper"));
     const screen::Key down = *screen::keyNamed("Abajo");
@@ -114,8 +114,8 @@ void pictures(benchmark::internal::Benchmark* bench) {
   bench->Arg(0)->Arg(500'000)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(5);
 }
 
-BENCHMARK_TEMPLATE(Move, host::HeadlessStage)->Apply(pictures);
-BENCHMARK_TEMPLATE(Move, host::WindowStage)->Apply(pictures);
+BENCHMARK_TEMPLATE(Move, scripts::HeadlessStage)->Apply(pictures);
+BENCHMARK_TEMPLATE(Move, scripts::WindowStage)->Apply(pictures);
 
 }  // namespace
 

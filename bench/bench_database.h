@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::bench {
 

@@ -6,8 +6,8 @@
 
 #include "bench/pending_database.h"
 #include "component/KORVAN.h"
-#include "host/headless_stage.h"
-#include "host/window_stage.h"
+#include "scripts/headless_stage.h"
+#include "scripts/window_stage.h"
 
 namespace korvantes::bench {
 
@@ -23,9 +23,9 @@ screen::Control& control(screen::Form& form, const char* identity) {
 
 /// Seconds from the click on the search button until the list is filled and, where there are
 /// windows, painted.
-double searchSeconds(host::ScriptStage& stage, KORVAN& component, std::size_t notes) {
+double searchSeconds(scripts::ScriptStage& stage, KORVAN& component, std::size_t notes) {
   double seconds = 0;
-  host::ScriptStage::Cues cues;
+  scripts::ScriptStage::Cues cues;
   cues.whileShown = [&](screen::Form& form) {
     stage.moveFocus(control(form, "Text1(0)"));
     stage.type("1");
@@ -62,8 +62,8 @@ void sizes(benchmark::internal::Benchmark* bench) {
   bench->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK_TEMPLATE(List, host::HeadlessStage)->Apply(sizes);
-BENCHMARK_TEMPLATE(List, host::WindowStage)->Apply(sizes);
+BENCHMARK_TEMPLATE(List, scripts::HeadlessStage)->Apply(sizes);
+BENCHMARK_TEMPLATE(List, scripts::WindowStage)->Apply(sizes);
 
 }  // namespace
 

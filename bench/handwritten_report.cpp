@@ -5,7 +5,7 @@
 #include <sqlite3.h>
 #include <stdexcept>
 
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::bench {
 

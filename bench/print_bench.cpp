@@ -8,7 +8,7 @@
 #include "office/print/offscreen_application.h"
 #include "office/print/pdf_file.h"
 #include "outside/plindor/base_datos.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::bench {
 

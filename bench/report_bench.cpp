@@ -11,7 +11,7 @@
 #include "bench/handwritten_report.h"
 #include "bench/report_database.h"
 #include "component/KORVAN.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::bench {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "outside/ado/date.h"
+#include "runtime/ado/date.h"
 
 namespace korvantes::bench {
 

@@ -8,7 +8,7 @@
 #include "component/KORVAN.h"
 #include "data/commission_rule.h"
 #include "engines/tsql/compiler.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::bench {
 

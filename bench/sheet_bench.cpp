@@ -7,7 +7,7 @@
 #include <string>
 
 #include "office/sheet/spreadsheet.h"
-#include "outside/screen/form.h"
+#include "runtime/screen/form.h"
 
 namespace korvantes::bench {
 

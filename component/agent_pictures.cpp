@@ -5,8 +5,8 @@
 
 #include "component/mdoKORVANTES.h"
 #include "component/private_folder.h"
-#include "outside/ado/stream.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/stream.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes::mdoKORVANTES {
 

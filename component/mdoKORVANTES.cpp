@@ -1,6 +1,6 @@
 #include "component/mdoKORVANTES.h"
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "component/KORVAN.h"
-#include "outside/screen/controls.h"
+#include "runtime/screen/controls.h"
 
 namespace korvantes::mdoKORVANTES {
 

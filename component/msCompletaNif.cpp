@@ -1,7 +1,7 @@
 #include "component/mdoKORVANTES.h"
-#include "outside/ado/utf8.h"
 #include "outside/plindor/util_formulario.h"
-#include "outside/screen/conversions.h"
+#include "runtime/ado/utf8.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::mdoKORVANTES {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::data {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "desktop/modal_dialog.h"
-#include "outside/screen/desktop.h"
+#include "runtime/screen/desktop.h"
 
 class QLineEdit;
 

@@ -5,8 +5,8 @@
 #include <memory>
 #include <optional>
 
-#include "outside/screen/form.h"
-#include "outside/screen/user_input.h"
+#include "runtime/screen/form.h"
+#include "runtime/screen/user_input.h"
 
 class QKeyEvent;
 class QPoint;

@@ -1,7 +1,7 @@
 #include "desktop/grid_model.h"
 
 #include "desktop/look.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::desktop {
 

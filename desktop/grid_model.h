@@ -2,7 +2,7 @@
 
 #include <QAbstractTableModel>
 
-#include "outside/screen/data_grid.h"
+#include "runtime/screen/data_grid.h"
 
 namespace korvantes::desktop {
 

@@ -2,7 +2,7 @@
 
 #include <QPoint>
 
-#include "outside/screen/user_input.h"
+#include "runtime/screen/user_input.h"
 
 class QWidget;
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "desktop/look.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::desktop {
 

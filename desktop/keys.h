@@ -3,7 +3,7 @@
 #include <QString>
 #include <QtCore/qnamespace.h>
 
-#include "outside/screen/user_input.h"
+#include "runtime/screen/user_input.h"
 
 class QKeyEvent;
 

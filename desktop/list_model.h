@@ -2,7 +2,7 @@
 
 #include <QAbstractTableModel>
 
-#include "outside/screen/list_view.h"
+#include "runtime/screen/list_view.h"
 
 namespace korvantes::desktop {
 

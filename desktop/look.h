@@ -9,7 +9,7 @@
 #include <QString>
 #include <string_view>
 
-#include "outside/screen/control.h"
+#include "runtime/screen/control.h"
 
 class QWidget;
 

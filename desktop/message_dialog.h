@@ -3,7 +3,7 @@
 #include <map>
 
 #include "desktop/modal_dialog.h"
-#include "outside/screen/desktop.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes::desktop {
 

@@ -8,9 +8,9 @@
 #include <array>
 #include <cstddef>
 
-#include "outside/ado/error.h"
-#include "outside/ado/stream.h"
-#include "outside/screen/picture_file.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/stream.h"
+#include "runtime/screen/picture_file.h"
 
 namespace korvantes::desktop {
 

@@ -3,7 +3,7 @@
 #include <QImage>
 #include <string>
 
-#include "outside/screen/picture.h"
+#include "runtime/screen/picture.h"
 
 namespace korvantes::desktop {
 

@@ -16,8 +16,8 @@
 #include "desktop/robot.h"
 #include "desktop/save_dialog.h"
 #include "desktop/window_stack.h"
-#include "outside/ado/error.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::desktop {
 

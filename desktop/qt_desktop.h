@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 class QWidget;
 

@@ -17,7 +17,7 @@
 #include "desktop/message_dialog.h"
 #include "desktop/row_table.h"
 #include "desktop/window_stack.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::desktop {
 

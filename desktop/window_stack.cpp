@@ -9,7 +9,7 @@
 
 #include "desktop/form_window.h"
 #include "desktop/keys.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::desktop {
 

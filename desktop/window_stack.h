@@ -6,7 +6,7 @@
 #include <exception>
 #include <vector>
 
-#include "outside/screen/user_input.h"
+#include "runtime/screen/user_input.h"
 
 class QWidget;
 

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "host/failure.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 
@@ -105,19 +105,6 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
       line.arguments.push_back(argument);
   }
   return line;
-}
-
-std::int64_t readWholeNumber(std::string_view argument, std::string_view text,
-                             std::int64_t smallest, std::int64_t largest) {
-  std::int64_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = end == text.data() + text.size() && error != std::errc::invalid_argument;
-  if (!whole)
-    throw Failure(std::string(argument) + ": " + inQuotes(text) + " no es un número entero");
-  if (error == std::errc::result_out_of_range || number < smallest || number > largest)
-    throw Failure(std::string(argument) + ": " + inQuotes(text) + " está fuera de los límites, " +
-                  std::to_string(smallest) + " a " + std::to_string(largest));
-  return number;
 }
 
 }  // namespace korvantes::host

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "outside/ado/date.h"
-#include "outside/screen/regional.h"
+#include "runtime/ado/date.h"
+#include "runtime/screen/regional.h"
 
 namespace korvantes::host {
 
@@ -32,9 +32,5 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments);
 
 /// The text of --ayuda.
 extern const std::string_view kHelp;
-
-/// Reads a whole number between the limits. Throws Failure, naming the argument.
-std::int64_t readWholeNumber(std::string_view argument, std::string_view text,
-                             std::int64_t smallest, std::int64_t largest);
 
 }  // namespace korvantes::host

@@ -7,9 +7,9 @@
 #include "data/schema.h"
 #include "engines/sqlite/sqlite_connection.h"
 #include "engines/tsql/compiler.h"
-#include "host/failure.h"
-#include "host/sample_data.h"
-#include "outside/ado/system_words.h"
+#include "runtime/ado/system_words.h"
+#include "sample/data.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 namespace {
@@ -54,7 +54,7 @@ Database openSample(OpenMode mode) {
   const std::string path = (folder / kSampleFile).string();
   Database database = openFile(path, OpenMode::Create);
   if (mode == OpenMode::Create || database.hasTables()) return database;
-  if (createTables(database, loadSampleData)) return database;
+  if (createTables(database, sample::loadSampleData)) return database;
   // Another process made them in the meantime; the connection must learn of them.
   return openFile(path, OpenMode::Existing);
 }

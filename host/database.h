@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::host {
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <utility>
 
-#include "host/failure.h"
-#include "host/sample_data.h"
+#include "sample/data.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 
@@ -20,7 +20,7 @@ void DesktopBase::makeSample(const std::string& path) {
   if (std::filesystem::exists(path, unknown))
     throw Failure("ya existe el fichero " + inQuotes(path) + "; elija otro nombre");
   Database database = openFile(path, OpenMode::Create);
-  createTables(database, loadSampleData);
+  createTables(database, sample::loadSampleData);
   use(std::move(database));
 }
 

@@ -23,7 +23,7 @@ class DesktopBase {
   bool isOpen() const { return session_.has_value(); }
   /// For the user; only while one is open.
   const std::string& name() const { return database_.name; }
-  Screens screens() const { return screensOf(session_->component()); }
+  scripts::Screens screens() const { return screensOf(session_->component()); }
 
  private:
   void use(Database database);

@@ -12,8 +12,8 @@
 #include "desktop/look.h"
 #include "desktop/owned_child.h"
 #include "host/base_file_dialog.h"
-#include "host/failure.h"
 #include "host/version.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 namespace {

@@ -6,10 +6,10 @@
 #include <string_view>
 
 #include "host/command_line.h"
-#include "host/failure.h"
 #include "host/orders.h"
 #include "host/version.h"
 #include "host/windows.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 namespace {

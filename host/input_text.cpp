@@ -4,8 +4,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "host/failure.h"
-#include "outside/ado/system_words.h"
+#include "runtime/ado/system_words.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 namespace {

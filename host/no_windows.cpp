@@ -1,5 +1,5 @@
-#include "host/failure.h"
 #include "host/windows.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 namespace {
@@ -18,7 +18,7 @@ bool displayAvailable() {
   return false;
 }
 
-std::unique_ptr<ScriptStage> makeWindowStage() {
+std::unique_ptr<scripts::ScriptStage> makeWindowStage() {
   throw refusal();
 }
 

@@ -4,10 +4,10 @@
 
 #include "desktop/print_preview.h"
 #include "desktop/save_dialog.h"
-#include "host/office_names.h"
-#include "host/office_objects.h"
 #include "office/print/mz_print.h"
 #include "office/print/pdf_file.h"
+#include "scripts/office_names.h"
+#include "scripts/office_objects.h"
 
 namespace korvantes::host {
 namespace {
@@ -48,10 +48,11 @@ class DialogSheetOutlet : public office::SheetOutlet {
 }  // namespace
 
 void offerDocumentsOnWindows(desktop::QtDesktop& desktop) {
-  offerSpreadsheets(desktop.objects(), std::make_shared<DialogSheetOutlet>(desktop));
+  scripts::offerSpreadsheets(office::objectsOf(desktop),
+                             std::make_shared<DialogSheetOutlet>(desktop));
   const auto reports = std::make_shared<PreviewReportOutlet>(desktop);
-  desktop.objects().add(kReportObject,
-                        [reports] { return std::make_unique<office::MZPrint>(reports); });
+  office::objectsOf(desktop).add(scripts::kReportObject,
+                                 [reports] { return std::make_unique<office::MZPrint>(reports); });
 }
 
 }  // namespace korvantes::host

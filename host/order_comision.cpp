@@ -4,17 +4,18 @@
 #include "data/commission_rule.h"
 #include "host/component_session.h"
 #include "host/database.h"
-#include "host/failure.h"
 #include "host/orders.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
+#include "scripts/failure.h"
+#include "scripts/whole_number.h"
 
 namespace korvantes::host {
 namespace {
 
 template <class Number>
 Number wholeArgument(std::string_view name, const std::string& text) {
-  return static_cast<Number>(readWholeNumber(name, text, std::numeric_limits<Number>::min(),
-                                             std::numeric_limits<Number>::max()));
+  return static_cast<Number>(scripts::readWholeNumber(
+      name, text, std::numeric_limits<Number>::min(), std::numeric_limits<Number>::max()));
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 #include <ostream>
 
 #include "host/database.h"
-#include "host/failure.h"
 #include "host/orders.h"
-#include "host/sample_data.h"
+#include "sample/data.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 namespace {
@@ -25,7 +25,7 @@ void orderCreate(const CommandLine& line, Streams streams) {
 
 void orderDemo(const CommandLine& line, Streams streams) {
   requireNoArguments(line);
-  if (!createTables(openDatabase(line.base, OpenMode::Create), loadSampleData))
+  if (!createTables(openDatabase(line.base, OpenMode::Create), sample::loadSampleData))
     throw Failure(kTablesExist);
   streams.out << "Tablas creadas, con datos de muestra.\n";
 }

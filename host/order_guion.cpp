@@ -3,16 +3,17 @@
 
 #include "host/component_session.h"
 #include "host/database.h"
-#include "host/failure.h"
-#include "host/headless_stage.h"
 #include "host/input_text.h"
 #include "host/orders.h"
-#include "host/sample_data.h"
 #include "host/screens.h"
-#include "host/script_player.h"
 #include "host/temporary_folder.h"
 #include "host/version.h"
 #include "host/windows.h"
+#include "sample/data.h"
+#include "sample/settlement_script.h"
+#include "scripts/failure.h"
+#include "scripts/headless_stage.h"
+#include "scripts/player.h"
 
 namespace korvantes::host {
 namespace {
@@ -23,13 +24,13 @@ constexpr int kNoon = 12 * 60 * 60;
 /// force and the dates that are accepted depend on it.
 constexpr ado::Date kSampleToday = {2026, 7, 1};
 
-std::unique_ptr<ScriptStage> makeStage(bool withWindows) {
+std::unique_ptr<scripts::ScriptStage> makeStage(bool withWindows) {
   if (withWindows) return makeWindowStage();
-  return std::make_unique<HeadlessStage>();
+  return std::make_unique<scripts::HeadlessStage>();
 }
 
 /// Throws Failure when lines of the script could not be done.
-void play(ScriptStage& stage, std::string_view script, const CommandLine& line,
+void play(scripts::ScriptStage& stage, std::string_view script, const CommandLine& line,
           const Database& database, std::ostream& out) {
   screen::Desktop& desktop = stage.desktop();
   if (line.regional) desktop.regional(*line.regional);
@@ -37,8 +38,8 @@ void play(ScriptStage& stage, std::string_view script, const CommandLine& line,
   desktop.version(kVersion);
 
   const ComponentSession session(database);
-  ScriptPlayer player(stage, *database.connection, screensOf(session.component()), out,
-                      line.output);
+  scripts::ScriptPlayer player(stage, *database.connection, screensOf(session.component()), out,
+                               line.output);
   const int errors = player.play(script);
   if (errors > 0)
     throw Failure("el guion ha dado errores: " + std::to_string(errors) +
@@ -60,10 +61,10 @@ void playSampleSettlement(const CommandLine& line, Streams streams) {
                  "temporal.\n\n";
   const TemporaryFolder folder;
   const Database database = openFile((folder.path() / "muestra.db").string(), OpenMode::Create);
-  createTables(database, loadSampleData);
+  createTables(database, sample::loadSampleData);
   CommandLine sampleLine = line;
   if (!sampleLine.today) sampleLine.today = kSampleToday;
-  play(*makeStage(hasWindows()), kSampleSettlement, sampleLine, database, streams.out);
+  play(*makeStage(hasWindows()), sample::kSettlementScript, sampleLine, database, streams.out);
 }
 
 }  // namespace korvantes::host

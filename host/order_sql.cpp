@@ -1,9 +1,9 @@
 #include "engines/tsql/compiler.h"
 #include "host/database.h"
-#include "host/failure.h"
 #include "host/input_text.h"
 #include "host/orders.h"
-#include "host/printed_values.h"
+#include "scripts/failure.h"
+#include "scripts/printed_values.h"
 
 namespace korvantes::host {
 
@@ -16,7 +16,7 @@ void orderSql(const CommandLine& line, Streams streams) {
   for (const std::string& statement : tsql::splitStatements(text)) {
     ++place;
     try {
-      printStatement(*database.connection, statement, streams.out);
+      scripts::printStatement(*database.connection, statement, streams.out);
     } catch (const ado::Error& error) {
       throw Failure("sentencia " + std::to_string(place) + ": " + error.what());
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <iosfwd>
-#include <string_view>
 
 #include "host/command_line.h"
 #include "host/host.h"
@@ -27,8 +26,5 @@ void orderScript(const CommandLine& line, Streams streams);
 /// No order and no display: plays the sample settlement on a database of its own, which is removed
 /// afterwards, so that it works again and again and no database of the user changes.
 void playSampleSettlement(const CommandLine& line, Streams streams);
-
-/// The script of the sample settlement.
-extern const std::string_view kSampleSettlement;
 
 }  // namespace korvantes::host

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "host/failure.h"
+#include "scripts/failure.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes::host {
@@ -19,7 +19,7 @@ void openSettlement(KORVAN& component, std::optional<std::int32_t> number) {
 }
 
 /// For the screens that take no number.
-Screens::mapped_type without(std::string_view screen, std::function<void()> open) {
+scripts::Screens::mapped_type without(std::string_view screen, std::function<void()> open) {
   return [screen, open = std::move(open)](std::optional<std::int32_t> number) {
     if (number) throw Failure("abrir " + std::string(screen) + ": no se espera un número");
     open();
@@ -28,7 +28,7 @@ Screens::mapped_type without(std::string_view screen, std::function<void()> open
 
 }  // namespace
 
-Screens screensOf(KORVAN& component) {
+scripts::Screens screensOf(KORVAN& component) {
   return {
       {"liquidacion",
        [&component](std::optional<std::int32_t> number) { openSettlement(component, number); }},

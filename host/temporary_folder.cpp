@@ -5,8 +5,8 @@
 #include <string>
 #include <system_error>
 
-#include "host/failure.h"
-#include "outside/ado/system_words.h"
+#include "runtime/ado/system_words.h"
+#include "scripts/failure.h"
 
 namespace korvantes::host {
 

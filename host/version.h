@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "outside/screen/desktop.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes::host {
 

@@ -4,10 +4,10 @@
 
 #include "host/desktop_window.h"
 #include "host/display.h"
-#include "host/failure.h"
 #include "host/office_windows.h"
 #include "host/version.h"
-#include "host/window_stage.h"
+#include "scripts/failure.h"
+#include "scripts/window_stage.h"
 
 namespace korvantes::host {
 
@@ -19,9 +19,9 @@ bool displayAvailable() {
   return displayAnswers();
 }
 
-std::unique_ptr<ScriptStage> makeWindowStage() {
+std::unique_ptr<scripts::ScriptStage> makeWindowStage() {
   if (!displayAvailable()) ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  return std::make_unique<WindowStage>();
+  return std::make_unique<scripts::WindowStage>();
 }
 
 void runDesktop(const CommandLine& line) {

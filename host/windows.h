@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/command_line.h"
-#include "host/script_stage.h"
+#include "scripts/stage.h"
 
 namespace korvantes::host {
 
@@ -16,7 +16,7 @@ bool hasWindows();
 bool displayAvailable();
 
 /// A stage of real windows, on the display or, without one, drawn in memory. One at a time.
-std::unique_ptr<ScriptStage> makeWindowStage();
+std::unique_ptr<scripts::ScriptStage> makeWindowStage();
 
 /// Opens the main window and returns when it has been closed. Throws Failure without a display.
 void runDesktop(const CommandLine& line);

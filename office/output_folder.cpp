@@ -2,8 +2,8 @@
 
 #include <system_error>
 
-#include "outside/ado/error.h"
-#include "outside/ado/system_words.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/system_words.h"
 
 namespace korvantes::office {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
-#include "outside/screen/user_input.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
+#include "runtime/screen/user_input.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

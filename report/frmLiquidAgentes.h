@@ -8,10 +8,10 @@
 #include <memory>
 #include <string>
 
-#include "outside/ado/recordset.h"
 #include "outside/plindor/util_formulario.h"
-#include "outside/screen/form.h"
 #include "report/search_statements.h"
+#include "runtime/ado/recordset.h"
+#include "runtime/screen/form.h"
 
 namespace korvantes {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "outside/ado/recordset.h"
 #include "outside/plindor/util_formulario.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::report {
 

@@ -1,7 +1,7 @@
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
 #include "report/frmLiquidAgentes.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes {
 

@@ -1,9 +1,9 @@
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
 #include "report/frmLiquidAgentes.h"
 #include "report/merged_invoices.h"
 #include "report/result_columns.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "outside/screen/data_grid.h"
 #include "report/search_statements.h"
+#include "runtime/screen/data_grid.h"
 
 namespace korvantes::report {
 

@@ -1,8 +1,8 @@
 // The report and the spreadsheet of the last result.
 #include "component/mdoKORVANTES.h"
 #include "outside/office/objects.h"
-#include "outside/screen/desktop.h"
 #include "report/frmLiquidAgentes.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes {
 

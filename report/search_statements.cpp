@@ -1,6 +1,6 @@
 #include "report/search_statements.h"
 
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::report {
 

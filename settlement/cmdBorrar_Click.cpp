@@ -1,8 +1,8 @@
 #include <stdexcept>
 
 #include "component/mdoKORVANTES.h"
-#include "outside/ado/transaction.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/transaction.h"
+#include "runtime/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

@@ -1,9 +1,9 @@
 #include "settlement/frmNewLiquidAgentes.h"
 
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
-#include "outside/screen/user_input.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
+#include "runtime/screen/user_input.h"
 
 namespace korvantes {
 

@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-#include "outside/ado/recordset.h"
 #include "outside/plindor/base_datos.h"
 #include "outside/plindor/util_formulario.h"
-#include "outside/screen/form.h"
+#include "runtime/ado/recordset.h"
+#include "runtime/screen/form.h"
 
 namespace korvantes {
 

@@ -2,8 +2,8 @@
 #include <charconv>
 
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

@@ -1,7 +1,7 @@
 #include "component/mdoKORVANTES.h"
 #include "data/commission_rule.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

@@ -1,4 +1,4 @@
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

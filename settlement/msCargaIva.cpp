@@ -1,5 +1,5 @@
 #include "component/mdoKORVANTES.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

@@ -1,6 +1,6 @@
 #include "component/mdoKORVANTES.h"
 #include "data/commission_rule.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

@@ -2,9 +2,9 @@
 #include <stdexcept>
 
 #include "component/mdoKORVANTES.h"
-#include "outside/ado/transaction.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/transaction.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "engines/tsql/value.h"
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::sqlite {
 

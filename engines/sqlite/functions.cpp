@@ -8,7 +8,7 @@
 
 #include "engines/sqlite/database.h"
 #include "engines/tsql/functions.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::sqlite {
 

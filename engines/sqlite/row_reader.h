@@ -5,7 +5,7 @@
 
 #include "engines/sqlite/database.h"
 #include "engines/tsql/compiler.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::sqlite {
 

@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "outside/ado/text_order.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::sqlite {
 

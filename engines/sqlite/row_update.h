@@ -7,7 +7,7 @@
 
 #include "engines/sqlite/database.h"
 #include "engines/tsql/catalogue.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::sqlite {
 

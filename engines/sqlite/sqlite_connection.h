@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::sqlite {
 

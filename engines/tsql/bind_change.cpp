@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "engines/tsql/binder.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

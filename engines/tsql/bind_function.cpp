@@ -3,7 +3,7 @@
 
 #include "engines/tsql/arithmetic.h"
 #include "engines/tsql/binder.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "outside/ado/error.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

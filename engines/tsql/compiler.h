@@ -17,7 +17,7 @@
 
 #include "engines/tsql/catalogue.h"
 #include "engines/tsql/value.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::tsql {
 

@@ -7,7 +7,7 @@
 #include "engines/tsql/runtime.h"
 #include "engines/tsql/text_values.h"
 #include "engines/tsql/wide.h"
-#include "outside/ado/date.h"
+#include "runtime/ado/date.h"
 
 namespace korvantes::tsql {
 

@@ -1,7 +1,7 @@
 #include "engines/tsql/lexer.h"
 
-#include "outside/ado/text_order.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::tsql {
 

@@ -5,7 +5,7 @@
 #include "engines/tsql/runtime.h"
 #include "engines/tsql/text_values.h"
 #include "engines/tsql/wide.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::tsql {
 

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "engines/tsql/parser.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

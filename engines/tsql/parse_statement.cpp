@@ -1,5 +1,5 @@
 #include "engines/tsql/parser.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

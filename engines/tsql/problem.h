@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::tsql {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

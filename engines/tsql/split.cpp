@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "engines/tsql/compiler.h"
-#include "outside/ado/text_order.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
 

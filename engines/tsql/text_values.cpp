@@ -5,10 +5,10 @@
 #include "engines/tsql/problem.h"
 #include "engines/tsql/runtime.h"
 #include "engines/tsql/wide.h"
-#include "outside/ado/date.h"
-#include "outside/ado/decimal.h"
-#include "outside/ado/text_order.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/date.h"
+#include "runtime/ado/decimal.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::tsql {
 

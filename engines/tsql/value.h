@@ -4,7 +4,7 @@
 #include <string>
 #include <variant>
 
-#include "outside/ado/variant.h"
+#include "runtime/ado/variant.h"
 
 namespace korvantes::tsql {
 

@@ -1,6 +1,6 @@
 #include "office/print/amounts.h"
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::office {
 

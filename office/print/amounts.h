@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "outside/ado/decimal.h"
-#include "outside/ado/variant.h"
+#include "runtime/ado/decimal.h"
+#include "runtime/ado/variant.h"
 
 namespace korvantes::office {
 

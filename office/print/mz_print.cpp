@@ -6,10 +6,10 @@
 #include "office/print/settlement_list_report.h"
 #include "office/print/settlement_notes.h"
 #include "office/print/settlement_report.h"
-#include "outside/ado/text_order.h"
 #include "outside/plindor/base_datos.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes::office {
 

@@ -3,7 +3,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::office {
 

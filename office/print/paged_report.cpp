@@ -4,7 +4,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::office {
 

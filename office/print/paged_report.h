@@ -2,7 +2,7 @@
 
 #include "office/outlets.h"
 #include "office/print/page_flow.h"
-#include "outside/ado/date.h"
+#include "runtime/ado/date.h"
 
 namespace korvantes::office {
 

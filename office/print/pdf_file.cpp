@@ -5,8 +5,8 @@
 #include <QSaveFile>
 #include <cerrno>
 
-#include "outside/ado/error.h"
-#include "outside/ado/system_words.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/system_words.h"
 
 namespace korvantes::office {
 

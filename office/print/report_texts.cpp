@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::office {
 

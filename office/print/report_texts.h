@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "outside/ado/decimal.h"
-#include "outside/ado/variant.h"
-#include "outside/screen/regional.h"
+#include "runtime/ado/decimal.h"
+#include "runtime/ado/variant.h"
+#include "runtime/screen/regional.h"
 
 namespace korvantes::office {
 

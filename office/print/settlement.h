@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::office {
 

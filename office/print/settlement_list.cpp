@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::office {
 

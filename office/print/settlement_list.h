@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "office/print/amounts.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::office {
 

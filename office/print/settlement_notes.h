@@ -4,7 +4,7 @@
 #include <string>
 
 #include "office/print/amounts.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::office {
 

@@ -6,7 +6,7 @@
 #include "office/print/paged_report.h"
 #include "office/print/report_texts.h"
 #include "office/print/settlement.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::office {
 

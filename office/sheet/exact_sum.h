@@ -1,6 +1,6 @@
 #pragma once
 
-#include "outside/ado/decimal.h"
+#include "runtime/ado/decimal.h"
 
 namespace korvantes::office {
 

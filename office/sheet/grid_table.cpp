@@ -1,6 +1,6 @@
 #include "office/sheet/grid_table.h"
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::office {
 

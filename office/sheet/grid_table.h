@@ -1,8 +1,8 @@
 #pragma once
 
 #include "office/sheet/sheet_table.h"
-#include "outside/ado/recordset.h"
-#include "outside/screen/data_grid.h"
+#include "runtime/ado/recordset.h"
+#include "runtime/screen/data_grid.h"
 
 namespace korvantes::office {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::office {
 

@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "office/sheet/sheet_table.h"
-#include "outside/ado/decimal.h"
-#include "outside/screen/list_view.h"
-#include "outside/screen/regional.h"
+#include "runtime/ado/decimal.h"
+#include "runtime/screen/list_view.h"
+#include "runtime/screen/regional.h"
 
 namespace korvantes::office {
 

@@ -6,7 +6,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include "outside/ado/system_words.h"
+#include "runtime/ado/system_words.h"
 
 namespace korvantes::office {
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "office/sheet/cell_format.h"
-#include "outside/ado/variant.h"
-#include "outside/screen/property.h"
+#include "runtime/ado/variant.h"
+#include "runtime/screen/property.h"
 
 namespace korvantes::office {
 

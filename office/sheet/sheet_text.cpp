@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "outside/ado/utf8.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::office {
 

@@ -5,9 +5,9 @@
 #include "office/sheet/sheet_file.h"
 #include "office/sheet/sheet_text.h"
 #include "office/sheet/workbook_writer.h"
-#include "outside/ado/error.h"
-#include "outside/ado/text_order.h"
-#include "outside/screen/conversions.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::office {
 

@@ -9,8 +9,8 @@
 #include "office/sheet/exact_sum.h"
 #include "office/sheet/sheet_text.h"
 #include "office/sheet/workbook.h"
-#include "outside/ado/utf8.h"
-#include "outside/screen/conversions.h"
+#include "runtime/ado/utf8.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::office {
 

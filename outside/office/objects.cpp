@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "outside/ado/error.h"
-#include "outside/ado/text_order.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes::office {
 
@@ -36,8 +36,12 @@ std::unique_ptr<Object> Registry::create(std::string_view programId) const {
                                       std::string(programId) + "»");
 }
 
+Registry& objectsOf(screen::Desktop& desktop) {
+  return desktop.attached<Registry>();
+}
+
 std::unique_ptr<Object> CreateObject(std::string_view programId) {
-  return screen::Desktop::current().objects().create(programId);
+  return objectsOf(screen::Desktop::current()).create(programId);
 }
 
 }  // namespace korvantes::office

@@ -10,14 +10,15 @@
 #include <variant>
 #include <vector>
 
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::plindor {
 class BaseDatos;
 }
 namespace korvantes::screen {
 class Control;
-}
+class Desktop;
+}  // namespace korvantes::screen
 
 namespace korvantes::office {
 
@@ -49,6 +50,9 @@ class Registry {
  private:
   std::vector<std::pair<std::string, Factory>> factories_;
 };
+
+/// The objects that a host offers on a desktop.
+Registry& objectsOf(screen::Desktop& desktop);
 
 /// Creates an object that the current desktop's registry offers.
 std::unique_ptr<Object> CreateObject(std::string_view programId);

@@ -1,7 +1,7 @@
 #include "outside/plindor/base_datos.h"
 
-#include "outside/ado/text_order.h"
 #include "outside/plindor/nombres.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::plindor {
 

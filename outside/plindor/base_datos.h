@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "outside/ado/connection.h"
 #include "outside/plindor/lista_campos.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::plindor {
 

@@ -6,11 +6,11 @@
 #include <limits>
 #include <optional>
 
-#include "outside/ado/date.h"
-#include "outside/ado/error.h"
-#include "outside/ado/text_order.h"
 #include "outside/plindor/nombres.h"
-#include "outside/screen/conversions.h"
+#include "runtime/ado/date.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::plindor {
 

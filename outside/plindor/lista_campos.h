@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "outside/ado/variant.h"
+#include "runtime/ado/variant.h"
 
 namespace korvantes::plindor {
 

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <optional>
 
-#include "outside/ado/error.h"
-#include "outside/ado/text_order.h"
-#include "outside/ado/utf8.h"
-#include "outside/screen/conversions.h"
-#include "outside/screen/desktop.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/ado/utf8.h"
+#include "runtime/screen/conversions.h"
+#include "runtime/screen/desktop.h"
 
 namespace korvantes::plindor {
 

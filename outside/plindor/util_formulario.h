@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "outside/ado/connection.h"
-#include "outside/screen/controls.h"
+#include "runtime/ado/connection.h"
+#include "runtime/screen/controls.h"
 
 namespace korvantes::plindor {
 

@@ -1,4 +1,4 @@
-#include "outside/ado/date.h"
+#include "runtime/ado/date.h"
 
 #include <gtest/gtest.h>
 

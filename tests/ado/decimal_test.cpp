@@ -1,10 +1,10 @@
-#include "outside/ado/decimal.h"
+#include "runtime/ado/decimal.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::ado {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "outside/ado/error.h"
-#include "outside/ado/recordset.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::ado {
 namespace {

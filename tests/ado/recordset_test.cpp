@@ -1,9 +1,9 @@
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 #include <gmock/gmock.h>
 #include <stdexcept>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::ado {
 namespace {

@@ -1,11 +1,11 @@
-#include "outside/ado/stream.h"
+#include "runtime/ado/stream.h"
 
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 #include "tests/support/temporary_folder.h"
 
 namespace korvantes::ado {

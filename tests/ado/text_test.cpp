@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "outside/ado/error.h"
-#include "outside/ado/system_words.h"
-#include "outside/ado/text_order.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/system_words.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/ado/utf8.h"
 
 namespace korvantes::ado {
 namespace {

@@ -1,10 +1,10 @@
-#include "outside/ado/variant.h"
+#include "runtime/ado/variant.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::ado {
 namespace {

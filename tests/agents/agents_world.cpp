@@ -1,6 +1,6 @@
 #include "tests/agents/agents_world.h"
 
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::agents {
 

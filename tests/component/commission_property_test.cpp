@@ -11,7 +11,7 @@
 
 #include "component/KORVAN.h"
 #include "data/commission_rule.h"
-#include "outside/ado/decimal.h"
+#include "runtime/ado/decimal.h"
 #include "tests/component/exact_commission.h"
 #include "tests/support/temporary_database.h"
 

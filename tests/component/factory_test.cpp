@@ -1,4 +1,4 @@
-#include "component/factory.h"
+#include "library/factory.h"
 
 #include <dlfcn.h>
 #include <gmock/gmock.h>

@@ -4,7 +4,7 @@
 
 #include "component/mdoKORVANTES.h"
 #include "data/commission_rule.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 #include "tests/support/recording_connection.h"
 
 namespace korvantes {

@@ -1,7 +1,7 @@
 // The same user on the headless desktop and on real windows brings about the same events.
 #include <gmock/gmock.h>
 
-#include "host/headless_stage.h"
+#include "scripts/headless_stage.h"
 #include "tests/desktop/stages.h"
 
 namespace korvantes::desktop {
@@ -29,7 +29,7 @@ Log recorded(Desktop& desktop, User& user, const std::function<void(SampleForm&)
 /// Plays `act` on both desktops; gives what happened on the real one.
 template <class Act>
 Log sameOnBoth(const std::function<void(SampleForm&)>& prepare, Act act) {
-  host::HeadlessStage headless;
+  scripts::HeadlessStage headless;
   const Log expected =
       recorded(static_cast<screen::HeadlessDesktop&>(headless.desktop()), headless, prepare, act);
   RealStage windows;

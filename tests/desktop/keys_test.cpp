@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <gtest/gtest.h>
 
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::desktop {
 

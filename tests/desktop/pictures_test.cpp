@@ -8,7 +8,7 @@
 #include <gmock/gmock.h>
 
 #include "desktop/look.h"
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::desktop {
 

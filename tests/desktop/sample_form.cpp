@@ -1,7 +1,7 @@
 #include "tests/desktop/sample_form.h"
 
-#include "outside/screen/desktop.h"
-#include "outside/screen/user_input.h"
+#include "runtime/screen/desktop.h"
+#include "runtime/screen/user_input.h"
 
 namespace korvantes::desktop {
 

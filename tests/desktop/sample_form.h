@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "outside/screen/form.h"
+#include "runtime/screen/form.h"
 
 namespace korvantes::desktop {
 

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/failure.h"
+#include "scripts/failure.h"
+#include "scripts/whole_number.h"
 
 namespace korvantes::host {
 namespace {
@@ -45,13 +46,13 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
 }
 
 TEST(CommandLine, ReadsWholeNumbersWithinTheirLimits) {
-  EXPECT_EQ(readWholeNumber("ID", "-32768", -32768, 32767), -32768);
-  EXPECT_EQ(readWholeNumber("ID", "007", -32768, 32767), 7);
+  EXPECT_EQ(scripts::readWholeNumber("ID", "-32768", -32768, 32767), -32768);
+  EXPECT_EQ(scripts::readWholeNumber("ID", "007", -32768, 32767), 7);
   for (const char* text : {"", " 1", "1 ", "1.0", "1,5", "0x10", "+1", "--1", "1e3", "cinco"})
-    EXPECT_THROW(readWholeNumber("ID", text, -32768, 32767), Failure) << text;
+    EXPECT_THROW(scripts::readWholeNumber("ID", text, -32768, 32767), Failure) << text;
   for (const char* text : {"32768", "-32769", "99999999999999999999"}) {
     try {
-      readWholeNumber("ID", text, -32768, 32767);
+      scripts::readWholeNumber("ID", text, -32768, 32767);
       ADD_FAILURE() << text;
     } catch (const Failure& failure) {
       EXPECT_EQ(std::string(failure.what()),

@@ -1,9 +1,9 @@
-#include "host/printed_values.h"
+#include "scripts/printed_values.h"
 
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace korvantes::host {
+namespace korvantes::scripts {
 namespace {
 
 using ado::Variant;
@@ -35,4 +35,4 @@ TEST(PrintedValues, EachKindHasOneForm) {
 }
 
 }  // namespace
-}  // namespace korvantes::host
+}  // namespace korvantes::scripts

@@ -1,5 +1,3 @@
-#include "host/sample_data.h"
-
 #include <cmath>
 #include <gtest/gtest.h>
 #include <string>
@@ -8,6 +6,7 @@
 #include "host/database.h"
 #include "host/temporary_folder.h"
 #include "outside/plindor/util_formulario.h"
+#include "sample/data.h"
 
 namespace korvantes::host {
 namespace {
@@ -17,7 +16,7 @@ class SampleData : public testing::Test {
   static void SetUpTestSuite() {
     folder_ = new TemporaryFolder;
     database_ = new Database(openFile((folder_->path() / "muestra.db").string(), OpenMode::Create));
-    createTables(*database_, loadSampleData);
+    createTables(*database_, sample::loadSampleData);
   }
   static void TearDownTestSuite() {
     delete database_;

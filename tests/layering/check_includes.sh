@@ -22,7 +22,7 @@ system_headers='fcntl.h unistd.h sys/stat.h sys/types.h'
 check() {
   local root=$1 folder folders=()
   cd "$root"
-  for folder in outside data component settlement report agents engines desktop office host; do
+  for folder in runtime outside data component settlement report agents library engines desktop office sample scripts host; do
     if [[ -d $folder ]]; then folders+=("$folder"); fi
   done
   find "${folders[@]}" -name '*.h' -o -name '*.cpp' | LC_ALL=C sort | xargs -r awk -v standard="${standard_headers//$'\n'/ }" \
@@ -44,33 +44,37 @@ check() {
     function may_include(file, target,    from) {
       from = folder(file)
       if (folder(target) == from || from == "host") return 1
-      if (from == "outside") return 0
-      if (folder(target) == "outside") return 1
-      if (from == "data") return 0
-      if (from == "component") {
-        # What shows the screens stands above them, in a file of its own.
-        if (file == "component/show_screens.cpp" && within(target, "settlement report agents"))
-          return 1
-        return within(target, "data")
-      }
+      if (from == "runtime") return 0
+      if (folder(target) == "runtime") return 1
+      if (from == "outside" || from == "data") return 0
+      if (from == "component") return within(target, "outside data")
       if (within(file, "settlement report agents")) {
         if (target == "component/KORVAN.h" || target == "component/mdoKORVANTES.h") return 1
         # A button of the report grid opens the entry screen.
         if (from == "report" && target == "settlement/frmNewLiquidAgentes.h") return 1
-        return within(target, "data")
+        return within(target, "outside data")
       }
-      # Engines share the compiler; screens of a toolkit and office documents know outside/ alone.
-      return within(file, "engines/sqlite engines/odbc") && within(target, "engines/tsql")
+      # What shows the screens is above them.
+      if (from == "library")
+        return within(target, "outside data component settlement report agents")
+      # Engines share the compiler.
+      if (from ~ /^engines/) return from != "engines/tsql" && within(target, "engines/tsql")
+      # Windows and documents know the money rule and nothing else of the component.
+      if (within(file, "desktop office")) return within(target, "outside data")
+      if (from == "sample") return within(target, "outside data")
+      # Scripts play on both kinds of desktop, and put documents into a folder.
+      return from == "scripts" && within(target, "outside desktop office")
     }
 
     # Headers of other libraries, and the folders that may know them.
     function library_allowed(file, header) {
       if (header ~ /^sqlite3/) return within(file, "engines/sqlite")
       if (header ~ /^(sql|sqlext|sqltypes|sqlucode|odbcinst)\.h$/) return within(file, "engines/odbc")
-      if (header ~ /^Q[A-Z]/ || header ~ /^Qt/) return within(file, "desktop office host")
+      if (header ~ /^Q[A-Z]/ || header ~ /^Qt/) return within(file, "desktop office scripts host")
       if (header ~ /^xlsxwriter/) return within(file, "office")
       if (header in is_standard || header in is_system) return 1
-      return !within(file, "outside data component settlement report agents engines/tsql")
+      return !within(file, "runtime outside data component settlement report agents library sample " \
+          "engines/tsql")
     }
 
     function complain(reason) { print FILENAME ":" FNR ": " reason; bad = 1 }
@@ -96,19 +100,24 @@ self_test() {
   trap 'rm -rf "$tree"' RETURN
   # Each line: OK or BAD, the file, what it includes.
   local -a cases=(
-    'OK outside/screen/form.cpp "outside/ado/variant.h"'
-    'OK outside/ado/variant.h <string>'
-    'OK outside/ado/stream.cpp <sys/stat.h>'
-    'OK component/show_screens.cpp "settlement/frmNewLiquidAgentes.h"'
+    'OK runtime/screen/form.cpp "runtime/ado/variant.h"'
+    'OK runtime/ado/variant.h <string>'
+    'OK runtime/ado/stream.cpp <sys/stat.h>'
+    'OK outside/plindor/service.h "runtime/ado/variant.h"'
+    'OK library/show_screens.cpp "settlement/frmNewLiquidAgentes.h"'
     'OK settlement/frmNewLiquidAgentes.h "component/mdoKORVANTES.h"'
     'OK report/grid.cpp "settlement/frmNewLiquidAgentes.h"'
     'OK engines/sqlite/sqlite_connection.cpp <sqlite3.h>'
     'OK engines/sqlite/functions.cpp "engines/tsql/compiler.h"'
     'OK desktop/window.cpp <QWidget>'
     'OK office/sheet/writer.cpp <xlsxwriter.h>'
+    'OK office/print/notes.cpp "data/schema.h"'
+    'OK sample/rows.cpp "data/schema.h"'
+    'OK scripts/stage.cpp "desktop/window.cpp"'
     'OK host/main.cpp "engines/sqlite/sqlite_connection.cpp"'
-    'BAD outside/screen/control.cpp "data/schema.h"'
-    'BAD outside/plindor/service.cpp <sqlite3.h>'
+    'BAD runtime/screen/control.cpp "outside/plindor/service.h"'
+    'BAD outside/plindor/other.cpp "data/schema.h"'
+    'BAD outside/plindor/third.cpp <sqlite3.h>'
     'BAD data/schema.h "component/mdoKORVANTES.h"'
     'BAD component/KORVAN.cpp "settlement/frmNewLiquidAgentes.h"'
     'BAD component/mdoKORVANTES.h <QString>'
@@ -121,9 +130,11 @@ self_test() {
     'BAD report/other.cpp "settlement/save.cpp"'
     'BAD engines/tsql/compiler.h "engines/sqlite/functions.cpp"'
     'BAD engines/tsql/lexer.cpp <sqlite3.h>'
-    'BAD engines/odbc/connection.cpp "data/schema.h"'
+    'BAD engines/odbc/connection.cpp "outside/plindor/service.h"'
     'BAD office/sheet.cpp "desktop/window.cpp"'
     'BAD desktop/grid.cpp <xlsxwriter.h>'
+    'BAD desktop/robot.cpp "scripts/stage.cpp"'
+    'BAD sample/people.cpp "scripts/stage.cpp"'
   )
   local line verdict file include
   for line in "${cases[@]}"; do

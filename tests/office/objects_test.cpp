@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "outside/ado/error.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/ado/error.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::office {
 namespace {
@@ -25,15 +25,15 @@ struct CreateObjectTest : testing::Test {
 };
 
 TEST_F(CreateObjectTest, FindsTheLatestRegistrationWithoutRegardToCase) {
-  desktop.objects().add("BELTRIS.bSheets", [] { return std::make_unique<Numbered>(1); });
-  desktop.objects().add("marzenes.MZPrint", [] { return std::make_unique<Numbered>(2); });
+  objectsOf(desktop).add("BELTRIS.bSheets", [] { return std::make_unique<Numbered>(1); });
+  objectsOf(desktop).add("marzenes.MZPrint", [] { return std::make_unique<Numbered>(2); });
   EXPECT_EQ(CreateObject("BELTRIS.BSHEETS")->call("n", {}), ado::Variant(1));
-  desktop.objects().add("Marzenes.mzprint", [] { return std::make_unique<Numbered>(3); });
+  objectsOf(desktop).add("Marzenes.mzprint", [] { return std::make_unique<Numbered>(3); });
   EXPECT_EQ(CreateObject("marzenes.MZPrint")->call("n", {}), ado::Variant(3));
 }
 
 TEST_F(CreateObjectTest, SaysWhichComponentIsMissing) {
-  desktop.objects().add("vacio", [] { return std::unique_ptr<Object>(); });
+  objectsOf(desktop).add("vacio", [] { return std::unique_ptr<Object>(); });
   for (const auto& [name, words] : {std::pair{"marzenes.MZPrint", "No hay ningún componente"},
                                     std::pair{"vacio", "No se ha podido crear"}}) {
     try {

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <limits>
 
-#include "outside/ado/error.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/ado/error.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::plindor {
 namespace {

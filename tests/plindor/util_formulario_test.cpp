@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <limits>
 
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 #include "tests/support/recording_connection.h"
 
 namespace korvantes::plindor {

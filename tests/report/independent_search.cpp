@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "outside/ado/text_order.h"
-#include "outside/ado/utf8.h"
+#include "runtime/ado/text_order.h"
+#include "runtime/ado/utf8.h"
 #include "tests/component/exact_commission.h"
 
 namespace korvantes::report {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "outside/ado/connection.h"
 #include "report/search_statements.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::report {
 

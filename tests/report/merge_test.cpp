@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "outside/screen/conversions.h"
 #include "report/merged_invoices.h"
+#include "runtime/screen/conversions.h"
 #include "tests/support/recording_connection.h"
 
 namespace korvantes::report {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <map>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::report {
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "data/commission_rule.h"
-#include "host/sample_data.h"
+#include "sample/data.h"
 #include "tests/report/independent_search.h"
 #include "tests/report/random_database.h"
 #include "tests/report/search_screen.h"
@@ -96,7 +96,7 @@ void expectIndependentResults(World& world, const Limits& limits) {
 TEST(SearchAgainstRawTables, SampleData) {
   World world;
   removeRows(world);
-  host::loadSampleData(*world.connection);
+  sample::loadSampleData(*world.connection);
   expectIndependentResults(world, {4, ado::Date{2024, 9, 30}, ado::Date{2026, 3, 31}});
 }
 

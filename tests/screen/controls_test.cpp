@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <stdexcept>
 
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 #include "tests/screen/sample_form.h"
 
 namespace korvantes::screen {

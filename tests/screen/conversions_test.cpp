@@ -1,9 +1,9 @@
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::screen {
 namespace {

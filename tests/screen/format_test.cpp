@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::screen {
 namespace {

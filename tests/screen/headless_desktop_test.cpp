@@ -1,4 +1,4 @@
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>

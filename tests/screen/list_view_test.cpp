@@ -1,4 +1,4 @@
-#include "outside/screen/list_view.h"
+#include "runtime/screen/list_view.h"
 
 #include <chrono>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "outside/screen/picture_file.h"
+#include "runtime/screen/picture_file.h"
 
 namespace korvantes::screen {
 namespace {

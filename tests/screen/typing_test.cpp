@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "outside/ado/utf8.h"
+#include "runtime/ado/utf8.h"
 #include "tests/screen/sample_form.h"
 
 namespace korvantes::screen {

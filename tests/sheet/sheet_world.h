@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "office/sheet/spreadsheet.h"
-#include "outside/screen/form.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/form.h"
+#include "runtime/screen/headless_desktop.h"
 #include "tests/support/failure.h"
 #include "tests/support/temporary_folder.h"
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "outside/ado/error.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::support {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::support {
 

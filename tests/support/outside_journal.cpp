@@ -2,7 +2,7 @@
 
 #include "outside/office/objects.h"
 #include "outside/plindor/base_datos.h"
-#include "outside/screen/conversions.h"
+#include "runtime/screen/conversions.h"
 
 namespace korvantes::support {
 
@@ -41,7 +41,8 @@ struct Recorder : office::Object {
 
 void OutsideJournal::offer(screen::HeadlessDesktop& desktop) {
   for (const char* name : {"marzenes.MZPrint", "BELTRIS.bSheets"})
-    desktop.objects().add(name, [&] { return std::make_unique<Recorder>(*this, desktop); });
+    office::objectsOf(desktop).add(name,
+                                   [&] { return std::make_unique<Recorder>(*this, desktop); });
 }
 
 }  // namespace korvantes::support

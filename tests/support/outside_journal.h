@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::support {
 

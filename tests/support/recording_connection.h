@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include "outside/ado/connection.h"
+#include "runtime/ado/connection.h"
 
 namespace korvantes::support {
 

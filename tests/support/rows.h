@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "outside/ado/recordset.h"
+#include "runtime/ado/recordset.h"
 
 namespace korvantes::support {
 

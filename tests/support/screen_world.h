@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "component/KORVAN.h"
-#include "outside/screen/headless_desktop.h"
+#include "runtime/screen/headless_desktop.h"
 #include "tests/support/faulty_connection.h"
 #include "tests/support/temporary_database.h"
 

@@ -1,9 +1,0 @@
-#pragma once
-
-namespace korvantes::host {
-
-/// Program identifiers of the outside objects.
-constexpr const char* kSpreadsheetObject = "BELTRIS.bSheets";
-constexpr const char* kReportObject = "marzenes.MZPrint";
-
-}  // namespace korvantes::host

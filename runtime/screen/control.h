@@ -1,0 +1,104 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "runtime/screen/property.h"
+
+namespace korvantes::screen {
+
+class Form;
+class Frame;
+
+/// Where a control stands: twips, relative to its container.
+struct Box {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+
+/// One control of a form. Positions and sizes are in twips (1440 an inch), relative to the
+/// container. A control belongs to its form from its construction to its destruction; it cannot be
+/// copied or moved.
+class Control : public PropertyOwner {
+ public:
+  enum class Kind {
+    Label,
+    TextBox,
+    Frame,
+    CheckBox,
+    OptionButton,
+    ComboBox,
+    PictureButton,
+    ListView,
+    DataGrid,
+    Image,
+    Shape,
+    CommonDialog
+  };
+
+  /// @param index place in a control array; nothing for a control that stands alone
+  Control(Form& form, Kind kind, std::string name, std::optional<int> index = std::nullopt);
+  ~Control() override;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  Form& form() const { return form_; }
+  Kind kind() const { return kind_; }
+  const std::string& name() const { return name_; }
+  std::optional<int> index() const { return index_; }
+  /// "cmdGrabar", "Text1(10)".
+  std::string identity() const;
+
+  /// The frame it lies in; nullptr when it lies on the form itself.
+  Frame* container() const { return container_; }
+  void container(Frame* frame) { container_ = frame; }
+  void place(const Box& box);
+  void place(int left, int top, int width, int height) { place({left, top, width, height}); }
+
+  /// Visible itself and in all its containers.
+  bool shown() const;
+  /// Shown, and enabled itself, in all its containers and in the form.
+  bool usable() const;
+  /// Usable, and of a kind that can have the focus.
+  bool canTakeFocus() const;
+  /// canTakeFocus, with TabStop: where Tab leads.
+  bool isTabStop() const;
+
+  /// Asks for the focus. Inside an event handler it is honoured when the handler has ended, the
+  /// last call winning; outside at once. A control that cannot take the focus is left alone.
+  void SetFocus();
+
+  Property<int> Left{*this, "Left"}, Top{*this, "Top"};
+  Property<int> Width{*this, "Width"}, Height{*this, "Height"};
+  Property<bool> Enabled{*this, "Enabled", true}, Visible{*this, "Visible", true};
+  Property<Color> BackColor{*this, "BackColor", kWindowBackground};
+  Property<Color> ForeColor{*this, "ForeColor", kWindowText};
+  Property<Font> TextFont{*this, "Font"};
+  Property<int> TabIndex{*this, "TabIndex"};
+  Property<bool> TabStop{*this, "TabStop", true};
+
+  /// Events. Empty handlers are skipped. Handlers run through UserInput or, where the program's own
+  /// assignment raises an event, inside that assignment.
+  std::function<void()> GotFocus, LostFocus, Click;
+  /// Key released while this control had the focus; the form's own KeyUp has run before. Setting
+  /// the code to 0 tells that the key is used up.
+  std::function<void(int& keyCode, int shift)> KeyUp;
+
+ protected:
+  void propertyChanged(const PropertyBase& property) override;
+
+ private:
+  Form& form_;
+  Kind kind_;
+  std::string name_;
+  std::optional<int> index_;
+  Frame* container_ = nullptr;
+};
+
+/// Letter behind the & of a caption, upper case; 0 when there is none ("&&" is a plain &).
+char32_t accessKeyOf(std::string_view caption);
+/// The caption without its mark.
+std::string captionWithoutMark(std::string_view caption);
+
+}  // namespace korvantes::screen

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "runtime/ado/variant.h"
+#include "runtime/screen/regional.h"
+
+namespace korvantes::screen {
+
+/// Conversions between values and the texts on the screen, as the runtime makes them. Where no
+/// regional settings are given, those of the current desktop apply.
+
+/// Those of the current desktop; the machine's while there is none.
+const Regional& currentRegional();
+
+/// True for a day that exists: dd/mm/yyyy, also one-digit days and months, two-digit years (00 to
+/// 29 are 2000 to 2029, 30 to 99 are 1930 to 1999), with /, - or . between. Blanks around are
+/// allowed, bare digits are no date.
+bool IsDate(std::string_view text);
+/// The date that IsDate accepts; nothing otherwise.
+std::optional<ado::Date> toDate(std::string_view text);
+
+/// True for what toNumber accepts. The empty text is no number.
+bool IsNumeric(std::string_view text, const Regional& regional = currentRegional());
+/// Reads a number: sign, digits, thousands separators before each group of three digits in front of
+/// the decimal separator, exponent; blanks around are allowed. Nothing for any other text: a
+/// separator elsewhere ("12.5", "0.125" in Spanish) is refused rather than read as a multiple.
+std::optional<double> parseNumber(std::string_view text,
+                                  const Regional& regional = currentRegional());
+/// The same; throws ado::ConversionError ("«abc» no es un número").
+double CDbl(std::string_view text, const Regional& regional = currentRegional());
+/// Whole number of 32 bits, fractions half to even; throws ado::ConversionError for no number and
+/// for one that does not fit.
+int CLng(std::string_view text, const Regional& regional = currentRegional());
+/// The number that a text begins with, a point as decimal separator whatever the settings; 0 when
+/// there is none.
+double Val(std::string_view text);
+
+/// The general form: at most 15 significant digits, no trailing zeros, no thousands separator, no
+/// negative zero; from 1E+15 on, and for very small values, with an exponent.
+std::string CStr(double number, const Regional& regional = currentRegional());
+/// The plain text of a value: numbers in the general form (a decimal of 100.0000 is "100"), dates
+/// dd/mm/yyyy, Null empty, Boolean "Verdadero" and "Falso". Bytes throw ado::ConversionError.
+std::string CStr(const ado::Variant& value, const Regional& regional = currentRegional());
+
+/// Masks: of numbers, "0.00", "000000", "##0.00", "#,###,##0.00 " (0, #, point, comma for
+/// thousands, literal text before and behind); of dates, "dd/mm/yyyy", "yyyy-mm-dd". Numbers round
+/// half away from zero at 15 significant digits, never to a negative zero; an exact decimal is
+/// formatted exactly; more digits than the mask are never cut before the point. Null gives an
+/// empty text, a text gives itself.
+std::string Format(const ado::Variant& value, std::string_view mask,
+                   const Regional& regional = currentRegional());
+
+}  // namespace korvantes::screen

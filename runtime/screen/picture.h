@@ -1,0 +1,43 @@
+#pragma once
+
+#include <any>
+#include <memory>
+#include <string>
+
+#include "runtime/ado/variant.h"
+
+namespace korvantes::screen {
+
+/// A picture, shared by its copies: the bytes of one image file and what a desktop found in it.
+/// The default-made picture is no picture.
+class Picture {
+ public:
+  Picture() = default;
+  /// `decoded` is what the desktop made of the file and shows, so that it need not do so twice.
+  Picture(ado::Bytes file, int width, int height, std::any decoded = {})
+      : data_(std::make_shared<const Data>(
+            Data{std::move(file), width, height, std::move(decoded)})) {}
+
+  bool empty() const { return !data_; }
+  /// Bytes of the image file. Only on a picture that is not empty, as all below.
+  const ado::Bytes& file() const { return data_->file; }
+  int width() const { return data_->width; }
+  int height() const { return data_->height; }
+  const std::any& decoded() const { return data_->decoded; }
+
+  /// The same picture, not merely an equal one.
+  friend bool operator==(const Picture& a, const Picture& b) { return a.data_ == b.data_; }
+
+ private:
+  struct Data {
+    ado::Bytes file;
+    int width, height;
+    std::any decoded;
+  };
+  std::shared_ptr<const Data> data_;
+};
+
+/// "(ninguna)" or "640 x 480".
+std::string printValue(const Picture& picture);
+
+}  // namespace korvantes::screen

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "runtime/ado/variant.h"
+
+namespace korvantes::screen {
+
+/// Pixels of the largest picture that is taken: one larger might leave no memory for the rest.
+constexpr std::int64_t kMostPixels = 20'000'000;
+
+struct PictureSize {
+  int width = 0, height = 0;  ///< pixels
+  bool tooLarge() const { return std::int64_t{width} * height > kMostPixels; }
+};
+
+/// Size of the picture in a bmp, gif, jpg or tif file, from its first bytes; nothing for any other
+/// file and for one cut off before its size.
+std::optional<PictureSize> pictureSize(const ado::Bytes& file);
+
+/// Why a file is refused, behind its name.
+constexpr const char* kNoPicture = "no es una imagen bmp, jpg, gif o tif";
+constexpr const char* kTooManyPixels = "tiene más de 20 millones de puntos";
+
+}  // namespace korvantes::screen

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "runtime/ado/connection.h"
+#include "sample/documents.h"
+
+namespace korvantes::sample {
+
+/// Settles some of the notes as the settlement screen would have done at the time: writes the
+/// settlements with their details, and marks the notes with the keys that the database gave.
+void settleSample(ado::Connection& connection, SampleDocuments& documents);
+
+}  // namespace korvantes::sample

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "office/outlets.h"
+#include "outside/office/objects.h"
+#include "scripts/transcript.h"
+
+namespace korvantes::office {
+class OutputFolder;
+}
+
+namespace korvantes::scripts {
+
+// The outside objects that the screens ask for by name.
+
+void offerSpreadsheets(office::Registry& objects, std::shared_ptr<office::SheetOutlet> outlet);
+
+/// Spreadsheets and reports of a script run: each is a file in the folder, and a happening of the
+/// transcript, "[hoja] N filas | PATH" or "[informe NUMBER] N filas | PATH". The folder is made
+/// when the first one comes. The transcript must outlive the offer.
+void offerDocumentsInFolder(office::Registry& objects, std::filesystem::path folder,
+                            Transcript& transcript);
+/// Ends the offer: from now on creating such an object is an ado::Error.
+void withdrawDocuments(office::Registry& objects);
+
+/// The part of the reports. A program built without windows cannot lay out pages: there, creating
+/// the object is an ado::Error that says so.
+void offerReportsInFolder(office::Registry& objects, std::shared_ptr<office::OutputFolder> folder,
+                          Transcript& transcript);
+
+}  // namespace korvantes::scripts

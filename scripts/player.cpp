@@ -1,0 +1,89 @@
+#include "scripts/player.h"
+
+#include <exception>
+#include <utility>
+
+#include "scripts/actions.h"
+#include "scripts/office_objects.h"
+
+namespace korvantes::scripts {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// The lines that say something, without the blanks in front of them.
+std::deque<std::string> linesOf(std::string_view script) {
+  if (script.starts_with(kByteOrderMark)) script.remove_prefix(kByteOrderMark.size());
+  std::deque<std::string> lines;
+  while (!script.empty()) {
+    std::string_view line = script.substr(0, script.find('\n'));
+    script.remove_prefix(line.size() == script.size() ? line.size() : line.size() + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    const auto first = line.find_first_not_of(" \t");
+    if (first != std::string_view::npos) lines.emplace_back(line.substr(first));
+  }
+  return lines;
+}
+
+}  // namespace
+
+ScriptPlayer::ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens screens,
+                           std::ostream& out, std::filesystem::path folder)
+    : stage_(stage),
+      formerDesktop_(screen::Desktop::makeCurrent(&stage.desktop())),
+      screens_(std::move(screens)),
+      transcript_(out),
+      answers_(transcript_),
+      pictures_(stage, transcript_, folder),
+      run_{stage, base, screens_, transcript_, answers_, pictures_} {
+  offerDocumentsInFolder(office::objectsOf(stage_.desktop()), std::move(folder), transcript_);
+  const auto answer = [this](const auto& dialog) {
+    const auto reply = answers_.answer(dialog);
+    pictures_.dialogShown();
+    return reply;
+  };
+  stage_.follow(
+      {.whileShown = [this](screen::Form& form) { playTopForm(form); },
+       .onMessage = answer,
+       .onList = answer,
+       .onFile = [this](const screen::FileDialog& dialog) { return answers_.answer(dialog); },
+       .onClosed =
+           [this](const screen::Form& form) { transcript_.happening("cerrado", form.name()); }});
+}
+
+ScriptPlayer::~ScriptPlayer() {
+  stage_.follow({});
+  withdrawDocuments(office::objectsOf(stage_.desktop()));
+  screen::Desktop::makeCurrent(formerDesktop_);
+}
+
+int ScriptPlayer::play(std::string_view script) {
+  lines_ = linesOf(script);
+  while (playNextLine()) {
+  }
+  return transcript_.errors();
+}
+
+/// False when the script has ended. Lines that follow an opened screen are played in here too,
+/// until that screen closes.
+bool ScriptPlayer::playNextLine() {
+  if (lines_.empty()) return false;
+  const std::string line = std::move(lines_.front());
+  lines_.pop_front();
+  transcript_.action(line);
+  if (line.starts_with('#')) return true;
+  try {
+    performAction(run_, line);
+  } catch (const std::exception& failure) {
+    transcript_.error(failure.what());
+  }
+  return true;
+}
+
+void ScriptPlayer::playTopForm(screen::Form& form) {
+  if (playNextLine()) return;
+  stage_.close();
+  form.Unload();
+}
+
+}  // namespace korvantes::scripts

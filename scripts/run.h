@@ -1,0 +1,25 @@
+#pragma once
+
+#include "runtime/ado/connection.h"
+#include "scripts/pictures.h"
+#include "scripts/queued_answers.h"
+#include "scripts/screens.h"
+#include "scripts/stage.h"
+#include "scripts/transcript.h"
+
+namespace korvantes::scripts {
+
+/// What the actions of a script act on.
+struct ScriptRun {
+  ScriptStage& stage;
+  ado::Connection& base;
+  const Screens& screens;
+  Transcript& transcript;
+  QueuedAnswers& answers;
+  ScriptPictures& pictures;
+
+  /// The topmost form. Throws Failure when none is open.
+  screen::Form& form() const;
+};
+
+}  // namespace korvantes::scripts
