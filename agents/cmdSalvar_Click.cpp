@@ -49,27 +49,27 @@ void frmAgentes::cmdSalvar_Click() {
 
   const std::shared_ptr<plindor::BaseDatos> MyBd = mdoKORVANTES::MyBd();
   ado::Connection& conexion = MyBd->Conexion();
-  ado::Transaction transaccion(conexion);
+  std::optional<ado::Transaction> transaccion;
   bool bGuardado = false;
   std::int32_t nNuevo = 0;
   try {
     MyBd->LimpiaSentencia(0);
     MyBd->Tabla = "AGE";
-    transaccion.begin();
+    transaccion.emplace(conexion);
     agregaCampos(*MyBd);
     const std::string& sCodigo = txtFields(kCodigo).Text();
     const std::int32_t nCodigo = screen::IsNumeric(sCodigo) ? screen::CLng(sCodigo) : -1;
     const ado::Recordset rsId = conexion.Execute(kBuscaAgente + std::to_string(nCodigo));
     if (rsId.isEOF() || rsId.isBOF()) {
       nNuevo = anadeAgente(*MyBd);
-      transaccion.commit();
+      transaccion->commit();
       bGuardado = true;
       msCargaAgentes();
       msPosicionAgente(0, true);
     } else {
       const std::int32_t nId = rsId.Fields(0).Value().asLong();
       actualizaAgente(*MyBd, nId);
-      transaccion.commit();
+      transaccion->commit();
       bGuardado = true;
       msCargaAgentes();
       msPosicionAgente(nId, false);
@@ -77,7 +77,8 @@ void frmAgentes::cmdSalvar_Click() {
     msEstadoPantalla(Consulta);
     txtFields(kCodigo).SetFocus();
   } catch (const std::exception& fallo) {
-    std::string texto = fallo.what() + transaccion.undo();
+    std::string texto = fallo.what();
+    if (transaccion) texto += mdoKORVANTES::deshaz(*transaccion);
     if (nNuevo != 0 && (bGuardado || estaGuardado(conexion, nNuevo))) {
       // From now on it is an agent like any other: the next click changes it, and adds no second.
       txtFields(kCodigo).Text = std::to_string(nNuevo);

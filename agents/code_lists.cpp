@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "runtime/ado/characters.h"
 #include "runtime/ado/utf8.h"
 
 namespace korvantes::agents {
@@ -9,10 +10,8 @@ namespace korvantes::agents {
 namespace {
 
 std::optional<std::int32_t> numeroDe(std::string_view texto) {
-  const auto primero = texto.find_first_not_of(' ');
-  if (primero == std::string_view::npos) return {};
-  texto = texto.substr(primero, texto.find_last_not_of(' ') - primero + 1);
-  if (texto.find_first_not_of("0123456789") != std::string_view::npos) return {};
+  texto = ado::trimmed(texto);
+  if (texto.empty() || !ado::allDigits(texto)) return {};
   std::int32_t numero = 0;
   const auto leido = std::from_chars(texto.data(), texto.data() + texto.size(), numero);
   if (leido.ec != std::errc{}) return {};

@@ -47,6 +47,12 @@ ado::Connection& Conexion() {
   return MyBd()->Conexion();
 }
 
+std::string deshaz(ado::Transaction& transaccion) {
+  const std::optional<ado::Error> fallo = transaccion.rollBack();
+  if (!fallo) return {};
+  return std::string("\r\nTampoco se han podido deshacer los cambios: ") + fallo->what();
+}
+
 }  // namespace mdoKORVANTES
 
 }  // namespace korvantes

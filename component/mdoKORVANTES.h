@@ -5,6 +5,7 @@
 #include <string>
 
 #include "component/KORVAN.h"
+#include "runtime/ado/transaction.h"
 #include "runtime/screen/controls.h"
 
 namespace korvantes::mdoKORVANTES {
@@ -22,6 +23,10 @@ const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente);
 
 /// The connection of the service of oComponente.
 ado::Connection& Conexion();
+
+/// Undoes a transaction after a failure. Gives what the user must know if that fails too, after a
+/// line break; else the empty text.
+std::string deshaz(ado::Transaction& transaccion);
 
 /// A tax number with its check letter, as the agent master completes it: a text that begins with a
 /// digit gets the letter of its digits, behind them or in place of the letter typed; one that

@@ -1,8 +1,7 @@
 #include "report/frmLiquidAgentes.h"
 
-#include <algorithm>
-
 #include "component/mdoKORVANTES.h"
+#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
 #include "runtime/screen/desktop.h"
 #include "runtime/screen/user_input.h"
@@ -15,10 +14,6 @@ namespace {
 constexpr int kModal = 1;
 constexpr std::int32_t kPedirAgente = -1;
 constexpr const char* kTeclaEscape = "\x1b";
-
-bool sonDigitos(const std::string& texto) {
-  return std::ranges::all_of(texto, [](char c) { return c >= '0' && c <= '9'; });
-}
 
 std::string versionDelPrograma() {
   const screen::ProgramVersion& version = screen::Desktop::current().version();
@@ -129,7 +124,7 @@ void frmLiquidAgentes::Text1_LostFocus(int index) {
 
   if (index == kCodigo) {
     // The key filter lets a decimal separator through.
-    if (!sonDigitos(box.Text())) return avisaCodigoNoValido();
+    if (!ado::allDigits(box.Text())) return avisaCodigoNoValido();
     msBuscarAgente(screen::CLng(box.Text()));
     if (nIdAgente == 0) {
       Tag = "e";

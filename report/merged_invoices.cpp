@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "runtime/ado/characters.h"
+
 namespace korvantes::report {
 
 namespace {
@@ -76,11 +78,9 @@ std::vector<Copia> prepara(ado::Recordset& rs, const ado::Recordset& rsFilas, bo
 ado::Variant recortado(const ado::Variant& valor) {
   if (valor.isNull()) return valor;
   const std::string& texto = valor.text();
-  const std::size_t primero = texto.find_first_not_of(' ');
-  if (primero == std::string::npos) return std::string();
-  const std::size_t longitud = texto.find_last_not_of(' ') + 1 - primero;
-  // Untouched, it shares its text with the row it comes from.
-  return longitud == texto.size() ? valor : ado::Variant(texto.substr(primero, longitud));
+  const std::string_view sinBlancos = ado::trimmed(texto);
+  // An untouched value shares its text with the row it comes from.
+  return sinBlancos.size() == texto.size() ? valor : ado::Variant(std::string(sinBlancos));
 }
 
 void rellena(ado::Recordset& rs, const ado::Recordset& rsFilas, const std::vector<Copia>& copias) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "runtime/ado/characters.h"
 #include "scripts/failure.h"
 #include "scripts/whole_number.h"
 
@@ -12,9 +13,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 
 std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  return ado::trimmed(text, kBlanks);
 }
 
 }  // namespace

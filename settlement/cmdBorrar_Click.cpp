@@ -38,14 +38,15 @@ void frmNewLiquidAgentes::cmdBorrar_Click() {
     return;
 
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
-  ado::Transaction transaccion(oDb->Conexion());
+  std::optional<ado::Transaction> transaccion;
   std::optional<std::string> sFallo;
   try {
-    transaccion.begin();
+    transaccion.emplace(oDb->Conexion());
     borraLiquidacion(*oDb);
-    transaccion.commit();
+    transaccion->commit();
   } catch (const std::exception& fallo) {
-    sFallo = fallo.what() + transaccion.undo();
+    sFallo = fallo.what();
+    if (transaccion) *sFallo += mdoKORVANTES::deshaz(*transaccion);
   }
 
   if (sFallo)

@@ -1,7 +1,7 @@
-#include <algorithm>
 #include <charconv>
 
 #include "component/mdoKORVANTES.h"
+#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
 #include "runtime/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
@@ -23,7 +23,7 @@ constexpr const char* kWhereAgente = " Age_id = ";
 std::optional<std::int32_t> frmNewLiquidAgentes::codigoDe(std::string_view texto) {
   std::int32_t codigo = 0;
   const char* end = texto.data() + texto.size();
-  if (!std::ranges::all_of(texto, [](char c) { return c >= '0' && c <= '9'; })) return {};
+  if (!ado::allDigits(texto)) return {};
   auto [read, error] = std::from_chars(texto.data(), end, codigo);
   if (error != std::errc{} || read != end) return {};
   return codigo;

@@ -60,23 +60,24 @@ void frmNewLiquidAgentes::cmdGrabar_Click() {
 void frmNewLiquidAgentes::msGrabarLiquidacion() {
   const std::shared_ptr<plindor::BaseDatos> oDb = mdoKORVANTES::MyBd();
   const std::int32_t nLiquiAnterior = nLiqui;
-  ado::Transaction transaccion(oDb->Conexion());
+  std::optional<ado::Transaction> transaccion;
   std::int32_t nNueva = 0;
   try {
     if (!compruebaLiquidacion()) return;
-    transaccion.begin();
+    transaccion.emplace(oDb->Conexion());
     // What was never on the screen is not removed.
     if (nLiqui > 0 && bCargada) borraLiquidacionAnterior(oDb->Conexion());
     nLiqui = 0;
     if (hayMarcadas()) nNueva = escribeLiquidacion(*oDb);
-    transaccion.commit();
+    transaccion->commit();
   } catch (const std::exception& fallo) {
     // What was stored stands as before, so the next save replaces the same settlement.
     nLiqui = nLiquiAnterior;
     std::string texto = fallo.what();
     if (!dynamic_cast<const FalloAlGrabar*>(&fallo))
       texto = std::string("Error grabando la liquidacion:") + kSalto + texto;
-    aviso(*this, texto + transaccion.undo());
+    if (transaccion) texto += mdoKORVANTES::deshaz(*transaccion);
+    aviso(*this, texto);
     return;
   }
   bCargada = false;

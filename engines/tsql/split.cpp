@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "engines/tsql/compiler.h"
+#include "runtime/ado/characters.h"
 #include "runtime/ado/text_order.h"
 
 namespace korvantes::tsql {
@@ -13,9 +14,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n\f\v";
 
 std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  return ado::trimmed(text, kBlanks);
 }
 
 /// Where the quoted text, bracketed name or comment that begins at `position` ends; `position`

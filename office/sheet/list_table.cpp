@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
 
 namespace korvantes::office {
@@ -10,10 +11,6 @@ namespace korvantes::office {
 namespace {
 
 constexpr int kTickWidth = 1100;
-
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 std::optional<ado::Date> dateIn(std::string_view text) {
   constexpr std::size_t kLength = 10;
@@ -84,13 +81,13 @@ std::optional<ado::Decimal> ListTable::numberIn(std::string_view text) const {
   for (const char c : text) {
     if (c == regional_.decimalSeparator)
       plain += '.';
-    else if (isDigit(c) || c == '-')
+    else if (ado::isDigit(c) || c == '-')
       plain += c;
     else if (c == 'e' || c == 'E')
       return std::nullopt;
   }
   const auto first = plain.find_first_not_of('-');
-  if (plain[first] == '0' && first + 1 < plain.size() && isDigit(plain[first + 1]))
+  if (plain[first] == '0' && first + 1 < plain.size() && ado::isDigit(plain[first + 1]))
     return std::nullopt;
   const auto number = ado::Decimal::parse(plain);
   if (!number || std::llabs(number->units()) >= kFifteenDigits) return std::nullopt;

@@ -1,24 +1,20 @@
 #include "outside/plindor/base_datos.h"
 
 #include "outside/plindor/nombres.h"
+#include "runtime/ado/characters.h"
 #include "runtime/ado/text_order.h"
 
 namespace korvantes::plindor {
 
 namespace {
 
-bool enBlanco(std::string_view texto) {
-  return texto.find_first_not_of(' ') == std::string_view::npos;
-}
-
 /// True when the text begins with WHERE as a word of its own.
 bool esCondicion(std::string_view texto) {
   constexpr std::string_view kWhere = "WHERE";
-  const auto inicio = texto.find_first_not_of(' ');
-  if (inicio == std::string_view::npos) return false;
-  texto.remove_prefix(inicio);
+  texto = ado::trimmed(texto);
   return ado::sameName(texto.substr(0, kWhere.size()), kWhere) &&
-         !enBlanco(texto.substr(kWhere.size())) && !esNombre(texto.substr(kWhere.size(), 1));
+         !ado::trimmed(texto.substr(kWhere.size())).empty() &&
+         !esNombre(texto.substr(kWhere.size(), 1));
 }
 
 /// Why the statement cannot be built; empty when it can.
@@ -77,7 +73,8 @@ bool BaseDatos::ActualizaFilas(std::string& sError) {
 bool BaseDatos::InsertaFila(std::string& sError, std::optional<long> /*nReservado*/) {
   sError = faltaTabla(Tabla);
   if (sError.empty()) sError = faltanCampos(Campos);
-  if (sError.empty() && !enBlanco(Condicion)) sError = "Un alta no lleva condición";
+  if (sError.empty() && !ado::trimmed(Condicion).empty())
+    sError = "Una fila nueva se inserta sin condición WHERE";
   if (!sError.empty()) return false;
 
   std::string nombres;

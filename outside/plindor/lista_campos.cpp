@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "outside/plindor/nombres.h"
+#include "runtime/ado/characters.h"
 #include "runtime/ado/date.h"
 #include "runtime/ado/error.h"
 #include "runtime/ado/text_order.h"
@@ -31,16 +32,10 @@ std::string citado(const Variant& valor) {
   throw ado::ConversionError(campo + ": " + citado(valor) + " " + motivo);
 }
 
-std::string_view sinBlancos(std::string_view texto) {
-  const auto primero = texto.find_first_not_of(' ');
-  if (primero == std::string_view::npos) return {};
-  return texto.substr(primero, texto.find_last_not_of(' ') - primero + 1);
-}
-
 /// Digits with an optional minus sign, and nothing else. A text of digits that fits no 64 bits
 /// counts as the largest number, so that it is told from a text that is no number.
 std::optional<std::int64_t> enteroDeTexto(std::string_view texto) {
-  texto = sinBlancos(texto);
+  texto = ado::trimmed(texto);
   std::int64_t numero = 0;
   const auto [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), numero);
   if (fin != texto.data() + texto.size()) return std::nullopt;

@@ -2,13 +2,11 @@
 
 #include <algorithm>
 
+#include "runtime/ado/characters.h"
+
 namespace korvantes::plindor {
 
 namespace {
-
-bool esDigito(char c) {
-  return c >= '0' && c <= '9';
-}
 
 bool esLetra(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
@@ -17,8 +15,9 @@ bool esLetra(char c) {
 }  // namespace
 
 bool esNombre(std::string_view texto) {
-  return !texto.empty() && !esDigito(texto.front()) &&
-         std::all_of(texto.begin(), texto.end(), [](char c) { return esLetra(c) || esDigito(c); });
+  return !texto.empty() && !ado::isDigit(texto.front()) &&
+         std::all_of(texto.begin(), texto.end(),
+                     [](char c) { return esLetra(c) || ado::isDigit(c); });
 }
 
 bool esNombreDeTabla(std::string_view texto) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "runtime/ado/characters.h"
 #include "runtime/ado/error.h"
 #include "runtime/ado/text_order.h"
 #include "runtime/ado/utf8.h"
@@ -22,25 +23,10 @@ constexpr int kPrimerCaracter = 32;
 /// Decimal digits that a double holds for sure.
 constexpr int kDigitos = 15;
 
-template <class Caracter>
-bool esDigito(Caracter c) {
-  return c >= Caracter{'0'} && c <= Caracter{'9'};
-}
-
-bool sonDigitos(std::string_view texto) {
-  return std::all_of(texto.begin(), texto.end(), esDigito<char>);
-}
-
-std::string_view sinBlancos(std::string_view texto) {
-  const auto primero = texto.find_first_not_of(' ');
-  if (primero == std::string_view::npos) return {};
-  return texto.substr(primero, texto.find_last_not_of(' ') - primero + 1);
-}
-
 /// The date in a field: ddmmyyyy, ddmmyy or with separators.
 std::optional<ado::Date> fechaDe(std::string_view texto) {
-  texto = sinBlancos(texto);
-  if (!sonDigitos(texto)) return screen::toDate(texto);
+  texto = ado::trimmed(texto);
+  if (!ado::allDigits(texto)) return screen::toDate(texto);
   if (texto.size() != 8 && texto.size() != 6) return std::nullopt;
   const std::string dia(texto.substr(0, 2));
   const std::string mes(texto.substr(2, 2));
@@ -73,7 +59,7 @@ std::string depurado(const std::string& texto, bool soloDigitos, char separador)
   std::string salida;
   bool separado = false;
   for (const char c : texto) {
-    if (esDigito(c)) {
+    if (ado::isDigit(c)) {
       salida += c;
     } else if (!soloDigitos && !separado && (c == separador || c == '.')) {
       salida += separador;
@@ -97,7 +83,7 @@ std::string UtilFormulario::LetraNif(const std::string& sNif, const std::string&
   }
   int digitos = 0;
   for (const char c : sNif) {
-    if (!esDigito(c)) continue;
+    if (!ado::isDigit(c)) continue;
     if (++digitos > kMaximo) return sVacio;
     numero = numero * 10 + (c - '0');
   }
@@ -138,7 +124,7 @@ void UtilFormulario::AlCambiarTexto(screen::TextBox& oControl, ado::Variant& /*n
 }
 
 void UtilFormulario::FiltraTecla(const screen::TextBox& oControl, int& nTecla, bool bFlag) const {
-  if (nTecla < kPrimerCaracter || esDigito(nTecla)) return;
+  if (nTecla < kPrimerCaracter || ado::isDigit(nTecla)) return;
   if (bFlag) {
     if (nTecla != '/') nTecla = 0;
     return;

@@ -2,6 +2,7 @@
 #include <compare>
 #include <utility>
 
+#include "runtime/ado/characters.h"
 #include "runtime/ado/error.h"
 #include "runtime/ado/recordset_rows.h"
 #include "runtime/ado/text_order.h"
@@ -14,12 +15,6 @@ constexpr long kBadArgument = 3001;
 
 [[noreturn]] void refuse(std::string_view criterion) {
   throw Error(kBadArgument, "El criterio de búsqueda no es válido: " + std::string(criterion));
-}
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
 Criterion::Operator takeOperator(std::string_view& text, std::string_view whole) {

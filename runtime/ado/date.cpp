@@ -2,13 +2,11 @@
 
 #include <chrono>
 
+#include "runtime/ado/characters.h"
+
 namespace korvantes::ado {
 
 namespace {
-
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 /// Takes `shortest` to `longest` digits off the front of a text.
 std::optional<int> takeNumber(std::string_view& text, std::size_t shortest, std::size_t longest) {

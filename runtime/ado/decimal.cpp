@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "runtime/ado/characters.h"
 #include "runtime/ado/error.h"
 
 namespace korvantes::ado {
@@ -38,10 +39,6 @@ void requireScale(int scale) {
   if (scale < 0 || scale > Decimal::kMaxScale) {
     throw ConversionError("Un importe exacto tiene entre 0 y 18 decimales");
   }
-}
-
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
 }
 
 }  // namespace

@@ -5,7 +5,15 @@
 namespace korvantes::ado {
 
 Error::Error(long number, const std::string& words, std::string_view statement)
-    : std::runtime_error(words), number_(number), subject_(subjectOf(statement)) {}
+    : Error(ErrorKind::Other, number, words, statement) {}
+
+Error::Error(ErrorKind kind, long number, const std::string& words, std::string_view statement,
+             std::string_view sqlState)
+    : std::runtime_error(words),
+      kind_(kind),
+      number_(number),
+      sqlState_(sqlState),
+      subject_(subjectOf(statement)) {}
 
 std::string subjectOf(std::string_view statement) {
   constexpr std::size_t kLongest = 60;

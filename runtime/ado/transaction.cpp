@@ -4,32 +4,45 @@
 
 namespace korvantes::ado {
 
-Transaction::Transaction(Connection& connection)
-    : connection_(connection), foreign_(connection.inTransaction()) {}
+namespace {
 
-void Transaction::begin() {
-  connection_.BeginTrans();
+std::optional<Error> rolledBack(Connection& connection) noexcept {
+  constexpr int kAttempts = 2;
+  std::optional<Error> failure;
+  // What counts is whether it is still open: a rollback can be done and its answer lost.
+  for (int attempt = 0; attempt < kAttempts && connection.inTransaction(); ++attempt) {
+    try {
+      connection.RollbackTrans();
+      return std::nullopt;
+    } catch (const Error& error) {
+      failure = error;
+    } catch (const std::exception& error) {
+      failure = Error(0, error.what());
+    }
+  }
+  return connection.inTransaction() ? failure : std::nullopt;
+}
+
+}  // namespace
+
+Transaction::Transaction(Connection& connection) : connection_(connection) {
+  const bool openBefore = connection.inTransaction();
+  try {
+    connection.BeginTrans();
+  } catch (...) {
+    if (!openBefore) rolledBack(connection);
+    throw;
+  }
 }
 
 void Transaction::commit() {
   connection_.CommitTrans();
+  ended_ = true;
 }
 
-std::string Transaction::undo() {
-  if (foreign_) return "";
-  constexpr int kAttempts = 2;
-  std::string why;
-  // What counts is whether it is still open: a rollback can be done and its answer lost.
-  for (int attempt = 0; attempt < kAttempts && connection_.inTransaction(); ++attempt) {
-    try {
-      connection_.RollbackTrans();
-      return "";
-    } catch (const std::exception& failure) {
-      why = failure.what();
-    }
-  }
-  if (!connection_.inTransaction()) return "";
-  return "\r\nTampoco se han podido deshacer los cambios: " + why;
+std::optional<Error> Transaction::rollBack() noexcept {
+  ended_ = true;
+  return rolledBack(connection_);
 }
 
 }  // namespace korvantes::ado

@@ -1,29 +1,35 @@
 #pragma once
 
-#include <string>
+#include <optional>
 
 #include "runtime/ado/connection.h"
 
 namespace korvantes::ado {
 
-/// The one transaction of a save or a deletion, and what undoes it when that fails.
+/// A transaction for as long as the object lives: opened by the constructor, rolled back by the
+/// destructor unless commit or rollBack was called.
 class Transaction {
  public:
+  /// Throws what BeginTrans throws, also when the caller's caller has a transaction open; that one
+  /// stays as it is. Nothing is left open then, even if only the answer was lost.
   explicit Transaction(Connection& connection);
+  ~Transaction() {
+    if (!ended_) rollBack();
+  }
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
 
-  /// Throws what BeginTrans throws, also when somebody else has a transaction open.
-  void begin();
-  /// Throws what CommitTrans throws; if only its answer was lost, the changes are stored all the
-  /// same.
+  /// Throws what CommitTrans throws; the transaction is then still to be rolled back. If only the
+  /// answer was lost, the changes are stored all the same.
   void commit();
-  /// Undoes what is not committed. Gives what the user must know when that fails, a line break in
-  /// front of it, else the empty text. A transaction that was open before stays as it is: it is not
-  /// ours to undo.
-  std::string undo();
+
+  /// Undoes now what is not committed, for callers that tell the user how it went. Gives the
+  /// failure if the changes could not be undone; the transaction is then still open.
+  std::optional<Error> rollBack() noexcept;
 
  private:
   Connection& connection_;
-  bool foreign_;
+  bool ended_ = false;
 };
 
 }  // namespace korvantes::ado

@@ -1,7 +1,7 @@
 #include <array>
 
+#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
-#include "runtime/screen/letters.h"
 
 namespace korvantes::screen {
 
@@ -10,10 +10,7 @@ bool IsDate(std::string_view text) {
 }
 
 std::optional<ado::Date> toDate(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return std::nullopt;
-  text = text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  text = ado::trimmed(text, " \t\r\n");
 
   // Day, month and year, with their numbers of digits.
   std::array<int, 3> numbers{};
@@ -21,7 +18,7 @@ std::optional<ado::Date> toDate(std::string_view text) {
   std::size_t part = 0;
   char separator = '\0';
   for (const char character : text) {
-    if (isDigit(character)) {
+    if (ado::isDigit(character)) {
       if (++lengths[part] > 4) return std::nullopt;
       numbers[part] = numbers[part] * 10 + (character - '0');
       continue;

@@ -2,6 +2,7 @@
 #include <array>
 #include <optional>
 
+#include "runtime/ado/characters.h"
 #include "runtime/ado/text_order.h"
 #include "runtime/ado/utf8.h"
 #include "runtime/screen/headless_desktop.h"
@@ -69,7 +70,7 @@ std::optional<int> functionKey(std::string_view name) {
   if (name.size() < 2 || name.size() > 3 || (name[0] != 'F' && name[0] != 'f')) return std::nullopt;
   int number = 0;
   for (const char digit : name.substr(1)) {
-    if (!isDigit(digit)) return std::nullopt;
+    if (!ado::isDigit(digit)) return std::nullopt;
     number = number * 10 + (digit - '0');
   }
   if (number < 1 || number > 12) return std::nullopt;

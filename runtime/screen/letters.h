@@ -2,10 +2,6 @@
 
 namespace korvantes::screen {
 
-constexpr bool isDigit(char character) {
-  return character >= '0' && character <= '9';
-}
-
 /// Upper case of the letters on a western European keyboard; any other character as it is.
 constexpr char32_t upperCase(char32_t character) {
   const bool latin1 = character >= 0xE0 && character <= 0xFE && character != 0xF7;

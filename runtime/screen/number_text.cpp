@@ -3,10 +3,10 @@
 #include <limits>
 #include <system_error>
 
+#include "runtime/ado/characters.h"
 #include "runtime/ado/error.h"
 #include "runtime/screen/conversions.h"
 #include "runtime/screen/decimal_digits.h"
-#include "runtime/screen/letters.h"
 
 namespace korvantes::screen {
 
@@ -14,11 +14,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+using ado::isDigit;
 
 /// Reads a number from its front and rewrites it as std::from_chars takes it.
 class NumberReader {
@@ -131,7 +127,8 @@ bool IsNumeric(std::string_view text, const Regional& regional) {
 }
 
 std::optional<double> parseNumber(std::string_view text, const Regional& regional) {
-  NumberReader reader(trimmed(text), regional.decimalSeparator, regional.thousandsSeparator);
+  NumberReader reader(ado::trimmed(text, kBlanks), regional.decimalSeparator,
+                      regional.thousandsSeparator);
   if (!reader.read() || !reader.atEnd()) return std::nullopt;
   return reader.value();
 }
@@ -151,7 +148,7 @@ int CLng(std::string_view text, const Regional& regional) {
 }
 
 double Val(std::string_view text) {
-  NumberReader reader(trimmed(text), '.', '\0');
+  NumberReader reader(ado::trimmed(text, kBlanks), '.', '\0');
   return reader.read() ? reader.value().value_or(0) : 0;
 }
 
