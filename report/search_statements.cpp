@@ -1,5 +1,6 @@
 #include "report/search_statements.h"
 
+#include "data/money_rule_sql.h"
 #include "runtime/screen/conversions.h"
 
 namespace korvantes::report {
@@ -50,18 +51,12 @@ constexpr const char* kOrdena = " ORDER BY ";
 constexpr const char* kOrdenFecha = "Age_Nom,Lca_Fecha,Fav_Fecha,Fav_Serie,Fav_Numero";
 constexpr const char* kOrdenCliente = "Age_Nom,Lca_Fecha,Fav_CliNom,Fav_Fecha,Fav_Serie,Fav_Numero";
 
-/// A line's amount less the note's two discounts, each worked out in cents.
-constexpr const char* kNetoLinea =
-    "(ROUND(CAST(Lav_Importe - ROUND(CAST((Lav_Importe * Cav_Dto1 / 100) AS Money),2) as money),2) "
-    "- ROUND(CAST(ROUND(CAST(Lav_Importe - ROUND(CAST((Lav_Importe * Cav_Dto1 / 100) AS Money),2) "
-    "as money),2) * Cav_DTO2 /100 AS MONEY),2)) ";
-
 // By invoice: the commission of the note.
 constexpr const char* kAbreSuma =
     ", (SELECT "
-    "SUM(ISNULL(ROUND(CAST( ";
+    "SUM(";
 constexpr const char* kCierraSuma =
-    "/100 * Lav_Comi AS Money),2),0)) "
+    ") "
     "FROM Lav INNER JOIN Cav ON Cav_Id = Lav_IdCav WHERE Cav_Id = Lcd_IdCav) AS Comision, "
     "Age_Id,Fav_CliCod,Lca_Base,Age_Nif,Lca_Iva,Lca_Retencion,Lca_Total ";
 
@@ -71,9 +66,8 @@ constexpr const char* kAbreLinea =
     "ISNULL(";
 constexpr const char* kTrasBase =
     ",0) AS Base , "
-    "Lav_Comi AS Porcentaje, "
-    "ISNULL(ROUND(CAST( ";
-constexpr const char* kCierraLinea = "/100 * Lav_Comi AS Money),2),0) AS Comision ";
+    "Lav_Comi AS Porcentaje, ";
+constexpr const char* kTrasComision = " AS Comision ";
 constexpr const char* kConLineas = "INNER JOIN Lav ON Lav_IdCav = Cav_Id ";
 
 std::string filtroFecha(const std::string& sConector, const std::string& sDesde,
@@ -134,10 +128,10 @@ std::string sentenciaDetalle(Forma forma, bool bPorFecha, const std::string& sFi
   sSql += bPorFecha ? kFacturaCliente : kClienteFactura;
   sSql += kComunes;
   if (forma == Forma::Factura) {
-    sSql += std::string(kAbreSuma) + kNetoLinea + kCierraSuma + kTablas;
+    sSql += kAbreSuma + data::sql::noteLineCommission() + kCierraSuma + kTablas;
   } else {
-    sSql += std::string(kAbreLinea) + kNetoLinea + kTrasBase + kNetoLinea + kCierraLinea + kTablas +
-            kConLineas;
+    sSql += kAbreLinea + data::sql::noteLineNet() + kTrasBase + data::sql::noteLineCommission() +
+            kTrasComision + kTablas + kConLineas;
   }
   return sSql + sFiltro + kOrdena + (bPorFecha ? kOrdenFecha : kOrdenCliente);
 }

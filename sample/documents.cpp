@@ -4,7 +4,7 @@
 #include <map>
 #include <string_view>
 
-#include "sample/amounts.h"
+#include "data/money_rule.h"
 #include "sample/articles.h"
 #include "sample/dice.h"
 #include "sample/people.h"
@@ -138,11 +138,27 @@ void makeSpecial(SampleNote& note, SampleInvoice& invoice) {
   }
 }
 
+data::OptionalDecimal decimal(std::optional<std::int64_t> units, int scale) {
+  if (!units) return {};
+  return ado::Decimal(*units, scale);
+}
+data::OptionalDecimal money(std::optional<std::int64_t> units) {
+  return decimal(units, ado::Decimal::kMoneyScale);
+}
+data::OptionalDecimal percent(std::optional<std::int64_t> hundredths) {
+  return decimal(hundredths, 2);
+}
+data::OptionalDecimal thousandths(std::optional<std::int64_t> units) {
+  return decimal(units, 3);
+}
+
 /// The amount of a note as an invoice carries it, in cents: the lines first, discounts after.
 std::int64_t invoicedCents(const SampleNote& note) {
   std::int64_t sum = 0;
   for (const SampleLine& line : note.lines) sum += line.amount.value_or(0);
-  return netCents(sum, note.discount1.value_or(0), note.discount2.value_or(0));
+  return data::lineNet(money(sum), percent(note.discount1.value_or(0)),
+                       percent(note.discount2.value_or(0)))
+      ->units();
 }
 
 /// Makes invoices and notes in the order of their dates.
@@ -242,7 +258,9 @@ SampleDocuments makeDocuments() {
 std::int64_t commissionOf(const SampleNote& note) {
   std::int64_t sum = 0;
   for (const SampleLine& line : note.lines)
-    sum += commissionCents(line.amount, note.discount1, note.discount2, line.commission);
+    sum += data::lineCommission(money(line.amount), percent(note.discount1),
+                                percent(note.discount2), thousandths(line.commission))
+               .units();
   return sum;
 }
 

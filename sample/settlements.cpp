@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "sample/amounts.h"
+#include "data/money_rule.h"
 #include "sample/lookups.h"
 #include "sample/people.h"
 #include "sample/rows.h"
@@ -83,8 +83,9 @@ void settle(ado::Connection& connection, SampleDocuments& documents, const Plan&
   const std::optional<Rate> rate = rateInForce(regimeOf(plan.agent), plan.date);
   const int vatPercent = rate ? rate->vat : 0;
   const int withholdingPercent = rate ? rate->withholding : 0;
-  const std::int64_t vat = percentOfCents(base, vatPercent);
-  const std::int64_t withholding = percentOfCents(base, withholdingPercent);
+  const ado::Decimal baseAmount(base, 2);
+  const ado::Decimal vat = data::percentageOf(baseAmount, {vatPercent, 2});
+  const ado::Decimal withholding = data::percentageOf(baseAmount, {withholdingPercent, 2});
 
   // Without a rate in force the screen stores rate 1 and no percentages.
   insertRows(connection, "Lca",
@@ -92,10 +93,9 @@ void settle(ado::Connection& connection, SampleDocuments& documents, const Plan&
              "Lca_PorIva, Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total",
              {{plan.agent, orNull(plan.date), orNull(plan.limit), plan.collected ? 1 : 0,
                plan.pending ? 1 : 0, rate ? rate->id : 1,
-               plan.remarks == nullptr ? ado::Variant() : ado::Variant(plan.remarks),
-               ado::Decimal(base, 2), ado::Decimal(vatPercent, 2), ado::Decimal(vat, 2),
-               ado::Decimal(withholdingPercent, 2), ado::Decimal(withholding, 2),
-               ado::Decimal(base + vat - withholding, 2)}});
+               plan.remarks == nullptr ? ado::Variant() : ado::Variant(plan.remarks), baseAmount,
+               ado::Decimal(vatPercent, 2), vat, ado::Decimal(withholdingPercent, 2), withholding,
+               baseAmount + vat - withholding}});
   const int settlement = newestSettlement(connection);
   std::vector<Row> details;
   for (SampleNote* note : notes) {

@@ -1,5 +1,5 @@
 #include "component/mdoKORVANTES.h"
-#include "data/commission_rule.h"
+#include "data/money_rule_sql.h"
 #include "runtime/screen/conversions.h"
 #include "runtime/screen/desktop.h"
 #include "settlement/frmNewLiquidAgentes.h"
@@ -81,7 +81,7 @@ void frmNewLiquidAgentes::msBuscarFacturas() {
   const std::string sRecibos = condicionRecibos(Check1.Value() == 1, Check2.Value() == 1);
 
   nAgenteLista = codigoDe(sAgente).value_or(0);
-  const std::string sSql = std::string(kSelect) + std::string(data::kNetoAlbaran) + kImporte +
+  const std::string sSql = std::string(kSelect) + std::string(data::sql::kNoteNet) + kImporte +
                            kFrom + kJoinFav + kLibres + kAgente + sAgente + sRecibos + sFecha +
                            kOrden;
   rsAlb = mdoKORVANTES::Conexion().Execute(sSql);

@@ -1,5 +1,5 @@
 #include "component/mdoKORVANTES.h"
-#include "data/commission_rule.h"
+#include "data/money_rule_sql.h"
 #include "runtime/screen/conversions.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
@@ -75,7 +75,7 @@ bool frmNewLiquidAgentes::msCargaLiquidacion() {
 
 void frmNewLiquidAgentes::cargaDetalle(ado::Connection& conexion, const std::string& sLiqui) {
   rsAlb =
-      conexion.Execute(std::string(kSelectDetalle) + std::string(data::kNetoAlbaran) + kImporte +
+      conexion.Execute(std::string(kSelectDetalle) + std::string(data::sql::kNoteNet) + kImporte +
                        kFrom + kJoinCav + kJoinFav + kJoinCli + kWhereDetalle + sLiqui);
   for (; !rsAlb.isEOF(); rsAlb.MoveNext()) {
     const std::int32_t nIdCav = rsAlb.Collect("Cav_Id").asLong();

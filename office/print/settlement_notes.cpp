@@ -1,5 +1,6 @@
 #include "office/print/settlement_notes.h"
 
+#include "data/money_rule_sql.h"
 #include "outside/plindor/util_formulario.h"
 
 namespace korvantes::office {
@@ -25,22 +26,12 @@ constexpr const char* kColumns =
     "SELECT Cav_Id,Cav_Serie,Cav_Numero,Cav_NFiscal,Fav_Id,Fav_Serie,Fav_Numero,Fav_Fecha,"
     "Fav_CliNom,";
 
-/// The amount of a note: the sum of its lines less two cascading discounts, each stage in cents.
-constexpr const char* kNetColumn =
-    "(SELECT ROUND(CAST(ROUND(CAST(SUM(Lav_Importe) AS money),2)"
-    " - ROUND(CAST(SUM(Lav_Importe) * Cav_Dto1 / 100 AS money),2)"
-    " - ROUND(CAST((ROUND(CAST(SUM(Lav_Importe) AS money),2)"
-    " - ROUND(CAST(SUM(Lav_Importe) * Cav_Dto1 / 100 AS money),2)) * Cav_Dto2 / 100 AS money),2)"
-    " AS money),2) FROM Lav WHERE Lav_IdCav = Cav_Id) AS Importe,";
-
-/// Its commission: each line less the same discounts, then the line's percentage. The header is
-/// joined again inside, as a server lets no aggregate mix columns of two levels.
-constexpr const char* kCommissionColumn =
-    "(SELECT SUM(ISNULL(ROUND(CAST("
-    "(ROUND(CAST(Lav_Importe - ROUND(CAST(Lav_Importe * Cav_Dto1 / 100 AS money),2) AS money),2)"
-    " - ROUND(CAST(ROUND(CAST(Lav_Importe - ROUND(CAST(Lav_Importe * Cav_Dto1 / 100 AS money),2)"
-    " AS money),2) * Cav_Dto2 / 100 AS money),2)) / 100 * Lav_Comi AS money),2),0))"
-    " FROM Lav INNER JOIN Cav ON Cav_Id = Lav_IdCav WHERE Cav_Id = Lcd_IdCav) AS Comision ";
+// The amount of a note, and its commission. For the latter the header is joined again inside, as a
+// server lets no aggregate mix columns of two levels.
+constexpr const char* kNetOfLines = "FROM Lav WHERE Lav_IdCav = Cav_Id) AS Importe,";
+constexpr const char* kOpenSum = "(SELECT SUM(";
+constexpr const char* kCloseSum =
+    ") FROM Lav INNER JOIN Cav ON Cav_Id = Lav_IdCav WHERE Cav_Id = Lcd_IdCav) AS Comision ";
 
 constexpr const char* kTables =
     "FROM Lcd LEFT JOIN Cav ON Cav_Id = Lcd_IdCav LEFT JOIN Fav ON Fav_Id = Cav_IdFactura ";
@@ -63,8 +54,10 @@ ado::Decimal amount(const ado::Variant& value) {
 }  // namespace
 
 std::string notesStatement(std::int64_t settlement) {
-  return std::string(kColumns) + kNetColumn + kCommissionColumn + kTables + kFilter +
-         std::to_string(settlement) + kOrder;
+  std::string statement(kColumns);
+  statement.append(data::sql::kNoteNet).append(kNetOfLines);
+  statement.append(kOpenSum).append(data::sql::noteLineCommission()).append(kCloseSum);
+  return statement.append(kTables).append(kFilter) + std::to_string(settlement) + kOrder;
 }
 
 SettledNote settledNote(const ado::Recordset& rows, std::size_t row) {

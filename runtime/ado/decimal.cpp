@@ -1,5 +1,6 @@
 #include "runtime/ado/decimal.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -73,6 +74,26 @@ Decimal Decimal::rescaled(int scale) const {
   const Wide wide = scale > scale_ ? units_ * powerOfTen(scale - scale_)
                                    : dividedHalfAway(units_, powerOfTen(scale_ - scale));
   return {narrowed(wide), scale};
+}
+
+Decimal Decimal::product(const Decimal& a, const Decimal& b, int shift, int scale) {
+  requireScale(scale);
+  const Wide units = Wide{a.units_} * b.units_;
+  const int places = a.scale_ + b.scale_ + shift - scale;
+  if (places >= 0) return {narrowed(dividedHalfAway(units, powerOfTen(places))), scale};
+  Wide widened = 0;
+  if (__builtin_mul_overflow(units, powerOfTen(-places), &widened)) widened = Wide{kLargest} + 1;
+  return {narrowed(widened), scale};
+}
+
+Decimal operator+(const Decimal& a, const Decimal& b) {
+  const int scale = std::max(a.scale_, b.scale_);
+  return {narrowed(Wide{a.rescaled(scale).units_} + b.rescaled(scale).units_), scale};
+}
+
+Decimal operator-(const Decimal& a, const Decimal& b) {
+  const int scale = std::max(a.scale_, b.scale_);
+  return {narrowed(Wide{a.rescaled(scale).units_} - b.rescaled(scale).units_), scale};
 }
 
 double Decimal::toDouble() const {

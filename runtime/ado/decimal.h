@@ -34,6 +34,14 @@ class Decimal {
   /// 1.005 at 2 is 1.01, -1.005 at 2 is -1.01. Throws ConversionError when it does not fit.
   Decimal rescaled(int scale) const;
 
+  /// a × b / 10^shift at the given scale: exact up to the one rounding, half away from zero.
+  /// Throws ConversionError when it does not fit.
+  static Decimal product(const Decimal& a, const Decimal& b, int shift, int scale);
+  /// At the larger of the two scales. Throw ConversionError when it does not fit.
+  friend Decimal operator+(const Decimal& a, const Decimal& b);
+  friend Decimal operator-(const Decimal& a, const Decimal& b);
+  Decimal& operator+=(const Decimal& other) { return *this = *this + other; }
+
   /// The nearest double.
   double toDouble() const;
 

@@ -119,6 +119,17 @@ Decimal Variant::decimal() const {
   refuse(kind_, nameOf(Kind::Decimal));
 }
 
+Decimal Variant::asDecimal() const {
+  switch (kind_) {
+    case Kind::Decimal:
+      return decimal();
+    case Kind::Whole:
+      return {whole(), 0};
+    default:
+      return decimalFromDouble(asDouble(), Decimal::kMoneyScale);
+  }
+}
+
 Date Variant::date() const {
   if (kind_ == Kind::Date) return {payload_.day.year, payload_.day.month, payload_.day.day};
   refuse(kind_, nameOf(Kind::Date));

@@ -75,6 +75,10 @@ class Variant {
   /// settings.
   double asDouble() const;
 
+  /// Number as an exact decimal: Decimal and Whole as they are; a Double as the amount of money
+  /// that its 15 significant digits stand for. Throws ConversionError for Null and other kinds.
+  Decimal asDecimal() const;
+
   /// Number as a 32-bit whole number; a fraction rounds half to even, as the runtime's Long
   /// conversion does. Throws ConversionError for Null, other kinds, and numbers beyond 32 bits.
   std::int32_t asLong() const;

@@ -11,6 +11,8 @@
 
 #include "component/KORVAN.h"
 #include "data/commission_rule.h"
+#include "data/money_rule.h"
+#include "data/money_rule_sql.h"
 #include "runtime/ado/decimal.h"
 #include "tests/component/exact_commission.h"
 #include "tests/support/temporary_database.h"
@@ -98,6 +100,11 @@ std::string literal(std::optional<std::int64_t> units, int scale) {
   return units ? Decimal(*units, scale).text() : "Null";
 }
 
+data::OptionalDecimal decimal(std::optional<std::int64_t> units, int scale) {
+  if (!units) return {};
+  return Decimal(*units, scale);
+}
+
 /// Stores the documents both as delivery notes and as orders, numbered from 1. One row at a time:
 /// the statements differ in their literals alone, so that each is compiled once.
 void store(ado::Connection& connection, const std::vector<Document>& documents) {
@@ -125,6 +132,26 @@ void store(ado::Connection& connection, const std::vector<Document>& documents) 
   connection.CommitTrans();
 }
 
+/// The amount of each note, by the statements and by the exact rule.
+void expectSameNoteNets(ado::Connection& connection, const std::vector<Document>& documents) {
+  const ado::Recordset rows =
+      connection.Execute("SELECT Cav_Id, " + std::string(data::sql::kNoteNet) +
+                         "FROM laV where laV_Idcav= cav_id) as Importe FROM Cav ORDER BY Cav_Id");
+  for (std::size_t index = 0; index < documents.size(); ++index) {
+    const auto& [discounts, lines] = documents[index];
+    data::OptionalDecimal sum;
+    for (const Line& line : lines)
+      if (line.amount) sum = sum.value_or(Decimal(0, 4)) + Decimal(*line.amount, 4);
+    const data::OptionalDecimal net =
+        data::noteNet(sum, decimal(discounts.first, 2), decimal(discounts.second, 2));
+    const ado::Variant& stored = rows.cell(index, 1);
+    ASSERT_EQ(stored.isNull(), !net) << "note " << index + 1;
+    if (net) {
+      EXPECT_EQ(stored.decimal(), *net) << "note " << index + 1;
+    }
+  }
+}
+
 TEST(CommissionProperty, EveryWayToTheCommissionEqualsTheExactComputation) {
   const std::uint64_t seed = setting("KORVANTES_PROPERTY_SEED", 20261124);
   const std::uint64_t lines = setting("KORVANTES_PROPERTY_LINES", 600);
@@ -136,6 +163,7 @@ TEST(CommissionProperty, EveryWayToTheCommissionEqualsTheExactComputation) {
   const auto component = KORVAN::Create();
   component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection()));
 
+  expectSameNoteNets(*database.connection(), documents);
   std::int32_t row = 0;
   for (std::size_t index = 0; index < documents.size() && !testing::Test::HasFailure(); ++index) {
     const Document& document = documents[index];
@@ -148,6 +176,10 @@ TEST(CommissionProperty, EveryWayToTheCommissionEqualsTheExactComputation) {
       SCOPED_TRACE("line " + std::to_string(row + 1) + ", amount " + literal(line.amount, 4) +
                    " at " + literal(line.commission, 3));
       const std::int64_t commission = exactCommission(document.discounts, line);
+      EXPECT_EQ(
+          data::lineCommission(decimal(line.amount, 4), decimal(document.discounts.first, 2),
+                               decimal(document.discounts.second, 2), decimal(line.commission, 3)),
+          Decimal(commission, 2));
       cents += commission;
       ++row;
       for (const std::int16_t origin : {data::kPedido, data::kAlbaran}) {
@@ -156,7 +188,7 @@ TEST(CommissionProperty, EveryWayToTheCommissionEqualsTheExactComputation) {
     }
     for (const std::int16_t origin : {data::kPedido, data::kAlbaran}) {
       const double sum = component->msComisionAgente(origin, key, 0);
-      EXPECT_EQ(ado::decimalFromDouble(sum, 4), Decimal(cents, 2)) << "origin " << origin;
+      EXPECT_EQ(sum, Decimal(cents, 2).toDouble()) << "origin " << origin;
     }
   }
 }

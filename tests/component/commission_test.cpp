@@ -1,7 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "component/KORVAN.h"
-#include "data/commission_rule.h"
+#include "data/money_rule.h"
+#include "data/money_rule_sql.h"
 #include "tests/component/exact_commission.h"
 #include "tests/support/temporary_database.h"
 
@@ -62,6 +63,16 @@ TEST_F(CommissionTest, TheIndependentComputationAgreesWithTheWorkedExample) {
   EXPECT_EQ(exactCommission({1000, 0}, {-100500, 100000}), -904);
 }
 
+// Added as doubles, a hundred times ten cents would be 9.99999999999998.
+TEST_F(CommissionTest, TheSumOfManyLinesIsTheNearestDouble) {
+  for (int line = 100; line < 200; ++line)
+    database.connection()->Execute(
+        "INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) "
+        "VALUES (" +
+        std::to_string(line) + ", 3, 0.10, 100)");
+  EXPECT_EQ(component->msComisionAgente(3, 3, 0), 10.0);
+}
+
 TEST_F(CommissionTest, AnUnknownOriginIsAnError) {
   EXPECT_THROW(component->msComisionAgente(5, 1, 0), ado::Error);
   EXPECT_DOUBLE_EQ(component->msComisionAgente(3, 1, 0), 1.93);
@@ -69,7 +80,7 @@ TEST_F(CommissionTest, AnUnknownOriginIsAnError) {
 
 TEST_F(CommissionTest, TheListedAmountDiscountsTheSumOfTheLines) {
   ado::Recordset rows = database.connection()->Execute(
-      "SELECT Cav_Id, " + std::string(data::kNetoAlbaran) +
+      "SELECT Cav_Id, " + std::string(data::sql::kNoteNet) +
       "FROM laV where laV_Idcav= cav_id) as Importe FROM Cav ORDER BY Cav_Id");
   const Variant expected[] = {Decimal::money(257400), Variant(), Variant(), Decimal::money(900000)};
   ASSERT_EQ(rows.RecordCount(), 4U);
