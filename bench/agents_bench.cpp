@@ -9,8 +9,9 @@
 
 #include "bench/bench_database.h"
 #include "component/KORVAN.h"
-#include "scripts/headless_stage.h"
-#include "scripts/window_stage.h"
+#include "scripts/headless_desktop.h"
+#include "scripts/key_names.h"
+#include "scripts/windows/window_desktop.h"
 
 namespace korvantes::bench {
 
@@ -74,15 +75,14 @@ screen::Control& control(screen::Form& form, const char* identity) {
 }
 
 /// Seconds a move, from the key until the fields are filled and, where there are windows, painted.
-double moveSeconds(scripts::ScriptStage& stage, KORVAN& component, std::size_t moves) {
+double moveSeconds(scripts::Stage& stage, KORVAN& component, std::size_t moves) {
   double seconds = 0;
-  scripts::ScriptStage::Cues cues;
-  cues.whileShown = [&](screen::Form& form) {
-    stage.moveFocus(control(form, "dboOper"));
-    const screen::Key down = *screen::keyNamed("Abajo");
+  stage.whileShown = [&](screen::Form& form) {
+    stage.user().moveFocus(control(form, "dboOper"));
+    const screen::Key down = *scripts::keyNamed("Abajo");
     const Clock::time_point start = Clock::now();
     for (std::size_t move = 0; move < moves; ++move) {
-      stage.stroke(down);
+      stage.user().stroke(down);
       if (stage.draws()) QCoreApplication::processEvents();
     }
     seconds = std::chrono::duration<double>(Clock::now() - start).count();
@@ -90,9 +90,8 @@ double moveSeconds(scripts::ScriptStage& stage, KORVAN& component, std::size_t m
       throw std::logic_error("not on the expected row");
     form.Unload();
   };
-  stage.follow(cues);
   component.jShow();
-  stage.follow({});
+  stage.whileShown = nullptr;
   return seconds / static_cast<double>(moves);
 }
 
@@ -114,7 +113,7 @@ void pictures(benchmark::internal::Benchmark* bench) {
   bench->Arg(0)->Arg(500'000)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(5);
 }
 
-BENCHMARK_TEMPLATE(Move, scripts::HeadlessStage)->Apply(pictures);
+BENCHMARK_TEMPLATE(Move, scripts::HeadlessDesktop)->Apply(pictures);
 BENCHMARK_TEMPLATE(Move, scripts::WindowStage)->Apply(pictures);
 
 }  // namespace

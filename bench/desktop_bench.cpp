@@ -6,8 +6,8 @@
 
 #include "bench/pending_database.h"
 #include "component/KORVAN.h"
-#include "scripts/headless_stage.h"
-#include "scripts/window_stage.h"
+#include "scripts/headless_desktop.h"
+#include "scripts/windows/window_desktop.h"
 
 namespace korvantes::bench {
 
@@ -23,25 +23,23 @@ screen::Control& control(screen::Form& form, const char* identity) {
 
 /// Seconds from the click on the search button until the list is filled and, where there are
 /// windows, painted.
-double searchSeconds(scripts::ScriptStage& stage, KORVAN& component, std::size_t notes) {
+double searchSeconds(scripts::Stage& stage, KORVAN& component, std::size_t notes) {
   double seconds = 0;
-  scripts::ScriptStage::Cues cues;
-  cues.whileShown = [&](screen::Form& form) {
-    stage.moveFocus(control(form, "Text1(0)"));
-    stage.type("1");
-    stage.moveFocus(control(form, "Check1"));
+  stage.whileShown = [&](screen::Form& form) {
+    stage.user().moveFocus(control(form, "Text1(0)"));
+    stage.user().type("1");
+    stage.user().moveFocus(control(form, "Check1"));
     const Clock::time_point start = Clock::now();
-    stage.click(control(form, "cmbBuscarFacturas"));
-    stage.settle();
+    stage.user().click(control(form, "cmbBuscarFacturas"));
+    stage.user().settle();
     if (stage.draws()) QCoreApplication::processEvents();
     seconds = std::chrono::duration<double>(Clock::now() - start).count();
     if (static_cast<screen::ListView&>(control(form, "ListView1")).Count() != notes)
       throw std::logic_error("unexpected number of rows");
     form.Unload();
   };
-  stage.follow(cues);
   component.jShowNewLiqui();
-  stage.follow({});
+  stage.whileShown = nullptr;
   return seconds;
 }
 
@@ -52,7 +50,7 @@ void List(benchmark::State& state) {
   component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection()));
   Stage stage;
   screen::Desktop::makeCurrent(&stage.desktop());
-  stage.clock({{2026, 6, 30}, 0});
+  stage.clock = ado::Moment{{2026, 6, 30}, 0};
   for ([[maybe_unused]] auto _ : state)
     state.SetIterationTime(searchSeconds(stage, *component, database.notes()));
   screen::Desktop::makeCurrent(nullptr);
@@ -62,7 +60,7 @@ void sizes(benchmark::internal::Benchmark* bench) {
   bench->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK_TEMPLATE(List, scripts::HeadlessStage)->Apply(sizes);
+BENCHMARK_TEMPLATE(List, scripts::HeadlessDesktop)->Apply(sizes);
 BENCHMARK_TEMPLATE(List, scripts::WindowStage)->Apply(sizes);
 
 }  // namespace

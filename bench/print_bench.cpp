@@ -8,7 +8,7 @@
 #include "office/print/offscreen_application.h"
 #include "office/print/pdf_file.h"
 #include "outside/plindor/base_datos.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 
 namespace korvantes::bench {
 
@@ -64,7 +64,7 @@ class Printing {
 
  private:
   PendingDatabase& database_;
-  screen::HeadlessDesktop desktop_;
+  scripts::HeadlessDesktop desktop_;
   std::shared_ptr<KeptReport> outlet_ = std::make_shared<KeptReport>();
   office::MZPrint print_{outlet_};
 };

@@ -11,7 +11,7 @@
 #include "bench/handwritten_report.h"
 #include "bench/report_database.h"
 #include "component/KORVAN.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 
 namespace korvantes::bench {
 
@@ -55,7 +55,7 @@ struct Figures {
 
 /// Opens the screen, chooses the shape and presses the search button, all settlements wanted.
 Figures searchOnScreen(ReportDatabase& database, bool byLine) {
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   const auto component = KORVAN::Create();
   component->MyBd(std::make_shared<plindor::BaseDatos>(database.connection()));
   screen::Desktop::makeCurrent(&desktop);
@@ -70,7 +70,7 @@ Figures searchOnScreen(ReportDatabase& database, bool byLine) {
     figures.cpuSeconds = watch.cpuSeconds();
     figures.bytes = residentBytes() - before;
     figures.rows = control<screen::DataGrid>(form, "dbgLiqui").RowCount();
-    desktop.settle();
+    desktop.user().settle();
     form.Unload();
   };
   component->jShowInfLiqui();

@@ -8,7 +8,7 @@
 #include "component/KORVAN.h"
 #include "data/commission_rule.h"
 #include "engines/tsql/compiler.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 
 namespace korvantes::bench {
 
@@ -76,7 +76,7 @@ class User {
     component_->jShowNewLiqui();
   }
 
-  screen::HeadlessDesktop desktop_;
+  scripts::HeadlessDesktop desktop_;
   std::shared_ptr<KORVAN> component_;
   double searchSeconds_ = 0, saveSeconds_ = 0;
   std::size_t rows_ = 0;

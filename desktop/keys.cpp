@@ -4,7 +4,6 @@
 #include <array>
 
 #include "desktop/look.h"
-#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::desktop {
 

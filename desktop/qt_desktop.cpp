@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QPixmap>
 #include <QUrl>
-#include <stdexcept>
 
 #include "desktop/choice_dialog.h"
 #include "desktop/file_dialog.h"
@@ -13,10 +11,8 @@
 #include "desktop/message_dialog.h"
 #include "desktop/pictures.h"
 #include "desktop/print_preview.h"
-#include "desktop/robot.h"
 #include "desktop/save_dialog.h"
 #include "desktop/window_stack.h"
-#include "runtime/ado/error.h"
 #include "runtime/ado/utf8.h"
 
 namespace korvantes::desktop {
@@ -61,14 +57,6 @@ void QtDesktop::mainWindow(QWidget* window) {
   stack_->mainWindow(window);
 }
 
-bool QtDesktop::capture(const std::string& path) {
-  QCoreApplication::processEvents();
-  if (stack_->top() == nullptr) return false;
-  if (!stack_->top()->grab().save(toQt(path), "png"))
-    throw ado::Error(0, "No se puede escribir el fichero " + path);
-  return true;
-}
-
 void QtDesktop::showModal(screen::Form& form) {
   const UsualPointer pointer(mousePointer());
   FormWindow window(form, *stack_, stack_->owner());
@@ -82,18 +70,23 @@ void QtDesktop::showModal(screen::Form& form) {
   forms_.push_back(&form);
   window.open();
   stack_->rethrow();
-  if (!scripted()) {
-    window.waitUntilClosed();
-    stack_->rethrow();
-    return;
-  }
-  while (form.loaded()) {
-    QCoreApplication::processEvents();
-    if (form.loaded()) whileShown(form);
-  }
+  attend(form, window);
 }
 
-void QtDesktop::close(screen::Form& form, QWidget& window) {
+void QtDesktop::attend(screen::Form&, FormWindow& window) {
+  window.waitUntilClosed();
+  stack_->rethrow();
+}
+
+void QtDesktop::attend(const screen::MessageBox&, MessageDialog& dialog) {
+  dialog.exec();
+}
+
+void QtDesktop::attend(const screen::ListDialog&, ChoiceDialog& dialog) {
+  dialog.exec();
+}
+
+void QtDesktop::close(screen::Form& form, FormWindow& window) {
   try {
     form.Unload();
   } catch (const std::exception&) {
@@ -101,50 +94,26 @@ void QtDesktop::close(screen::Form& form, QWidget& window) {
   }
   std::erase(forms_, &form);
   stack_->closed(window);
-  if (onClosed) onClosed(form);
-}
-
-void QtDesktop::dialogShown() {
-  QCoreApplication::processEvents();
-  if (onDialogShown) onDialogShown();
+  closed(form);
 }
 
 screen::Answer QtDesktop::messageBox(const screen::MessageBox& box) {
   const UsualPointer pointer(mousePointer());
   MessageDialog dialog(*stack_, box);
   dialog.open();
-  if (!scripted() && !onMessage) {
-    dialog.exec();
-    return dialog.answer();
-  }
-  dialogShown();
-  const auto reply = onMessage ? onMessage(box) : Reply<screen::Answer>{box.defaultAnswer()};
-  Robot(*this).answer(dialog, reply.value, reply.byEnter);
+  attend(box, dialog);
   return dialog.answer();
 }
 
-std::optional<std::size_t> QtDesktop::chooseFromList(const screen::ListDialog& dialog) {
+std::optional<std::size_t> QtDesktop::chooseFromList(const screen::ListDialog& list) {
   const UsualPointer pointer(mousePointer());
-  ChoiceDialog window(*stack_, dialog);
-  window.open();
-  if (!scripted() && !onList) {
-    window.exec();
-    return window.chosen();
-  }
-  dialogShown();
-  const auto reply = onList ? onList(dialog) : Reply<std::optional<std::size_t>>{};
-  if (reply.value && *reply.value >= dialog.rows.size())
-    throw std::out_of_range("La lista «" + dialog.title + "» no tiene la fila " +
-                            std::to_string(*reply.value + 1));
-  Robot(*this).answer(window, reply.value, reply.byEnter);
-  return window.chosen();
+  ChoiceDialog dialog(*stack_, list);
+  dialog.open();
+  attend(list, dialog);
+  return dialog.chosen();
 }
 
 std::optional<std::string> QtDesktop::chooseFile(const screen::FileDialog& dialog) {
-  if (onFile || scripted()) {
-    stack_->passed();
-    return onFile ? onFile(dialog) : std::nullopt;
-  }
   const UsualPointer pointer(mousePointer());
   return askForFile(*stack_, dialog.filter);
 }
@@ -193,10 +162,6 @@ void QtDesktop::savePicture(const screen::Picture& picture, const std::string& p
 void QtDesktop::mousePointer(int shape) {
   Desktop::mousePointer(shape);
   usePointer(shape);
-}
-
-ado::Moment QtDesktop::now() const {
-  return clock ? *clock : Desktop::now();
 }
 
 }  // namespace korvantes::desktop

@@ -1,18 +1,20 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "runtime/screen/headless_desktop.h"
+#include "runtime/screen/desktop.h"
 
 class QWidget;
 
 namespace korvantes::desktop {
 
+class ChoiceDialog;
+class FormWindow;
+class MessageDialog;
 class WindowStack;
 struct PrintDocument;
 struct SaveRequest;
@@ -22,41 +24,16 @@ struct SaveRequest;
 /// A form is shown in a window that is modal to the whole program; its frame button, Alt+F4 and
 /// whatever the form does with Escape unload it. When the program ends while forms are open, they
 /// are unloaded from the topmost down and the calls that show them return.
-///
-/// Without the functions below a user sits in front of it. A script sets them, as on the headless
-/// desktop, and plays the user through a Robot: the same script then gives the same events in the
-/// same order.
 class QtDesktop : public screen::Desktop {
  public:
-  template <class T>
-  using Reply = screen::HeadlessDesktop::Reply<T>;
-
   QtDesktop();
   ~QtDesktop() override;
-
-  /// Called again and again with the topmost form while it is shown, in place of waiting for a
-  /// user. With it set, dialogs without an answer of their own get the headless desktop's.
-  std::function<void(screen::Form&)> whileShown;
-  /// What the robot does to a dialog once it is on the screen.
-  std::function<Reply<screen::Answer>(const screen::MessageBox&)> onMessage;
-  std::function<Reply<std::optional<std::size_t>>(const screen::ListDialog&)> onList;
-  /// Answers in place of the dialog, which is not shown then.
-  std::function<std::optional<std::string>(const screen::FileDialog&)> onFile;
-  /// A dialog has just come up, and waits for its answer.
-  std::function<void()> onDialogShown;
-  /// A form was closed.
-  std::function<void(const screen::Form&)> onClosed;
-  /// Fixed clock; the machine's when empty.
-  std::optional<ado::Moment> clock;
 
   /// Window that forms and dialogs belong to while no form is open; nullptr for none. The first
   /// form leaves it free, so that it can be closed: while it shows a form it takes no other input.
   void mainWindow(QWidget* window);
   /// The open forms, topmost last.
   const std::vector<screen::Form*>& forms() const { return forms_; }
-  /// Saves a picture of the topmost window, form or dialog, as a png file. False when no window is
-  /// open; throws ado::Error when the file cannot be written.
-  bool capture(const std::string& path);
 
   // Documents, which nobody but a user in front of the windows can deal with.
 
@@ -80,13 +57,22 @@ class QtDesktop : public screen::Desktop {
   void savePicture(const screen::Picture& picture, const std::string& path) override;
   using Desktop::mousePointer;
   void mousePointer(int shape) override;
-  ado::Moment now() const override;
+
+ protected:
+  // Who deals with what has just come up: a user, unless a derived class plays one.
+
+  /// Returns when the form has been unloaded.
+  virtual void attend(screen::Form& form, FormWindow& window);
+  /// Return when the dialog has been closed.
+  virtual void attend(const screen::MessageBox& box, MessageDialog& dialog);
+  virtual void attend(const screen::ListDialog& list, ChoiceDialog& dialog);
+  /// A form was closed and is off the stack.
+  virtual void closed(const screen::Form&) {}
+
+  WindowStack& stack() { return *stack_; }
 
  private:
-  friend class Robot;
-  bool scripted() const { return static_cast<bool>(whileShown); }
-  void close(screen::Form& form, QWidget& window);
-  void dialogShown();
+  void close(screen::Form& form, FormWindow& window);
 
   std::unique_ptr<WindowStack> stack_;
   std::vector<screen::Form*> forms_;

@@ -9,7 +9,6 @@
 
 #include "desktop/form_window.h"
 #include "desktop/keys.h"
-#include "runtime/screen/headless_desktop.h"
 
 namespace korvantes::desktop {
 

@@ -18,7 +18,7 @@ bool displayAvailable() {
   return false;
 }
 
-std::unique_ptr<scripts::ScriptStage> makeWindowStage() {
+std::unique_ptr<scripts::Stage> makeWindowStage() {
   throw refusal();
 }
 

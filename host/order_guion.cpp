@@ -12,7 +12,7 @@
 #include "sample/data.h"
 #include "sample/settlement_script.h"
 #include "scripts/failure.h"
-#include "scripts/headless_stage.h"
+#include "scripts/headless_desktop.h"
 #include "scripts/player.h"
 
 namespace korvantes::host {
@@ -24,22 +24,22 @@ constexpr int kNoon = 12 * 60 * 60;
 /// force and the dates that are accepted depend on it.
 constexpr ado::Date kSampleToday = {2026, 7, 1};
 
-std::unique_ptr<scripts::ScriptStage> makeStage(bool withWindows) {
+std::unique_ptr<scripts::Stage> makeStage(bool withWindows) {
   if (withWindows) return makeWindowStage();
-  return std::make_unique<scripts::HeadlessStage>();
+  return std::make_unique<scripts::HeadlessDesktop>();
 }
 
 /// Throws Failure when lines of the script could not be done.
-void play(scripts::ScriptStage& stage, std::string_view script, const CommandLine& line,
+void play(scripts::Stage& stage, std::string_view script, const CommandLine& line,
           const Database& database, std::ostream& out) {
   screen::Desktop& desktop = stage.desktop();
   if (line.regional) desktop.regional(*line.regional);
-  if (line.today) stage.clock({*line.today, kNoon});
+  if (line.today) stage.clock = ado::Moment{*line.today, kNoon};
   desktop.version(kVersion);
 
   const ComponentSession session(database);
-  scripts::ScriptPlayer player(stage, *database.connection, screensOf(session.component()), out,
-                               line.output);
+  scripts::Player player(stage, *database.connection, screensOf(session.component()), out,
+                         line.output);
   const int errors = player.play(script);
   if (errors > 0)
     throw Failure("el guion ha dado errores: " + std::to_string(errors) +

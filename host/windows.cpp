@@ -7,7 +7,7 @@
 #include "host/office_windows.h"
 #include "host/version.h"
 #include "scripts/failure.h"
-#include "scripts/window_stage.h"
+#include "scripts/windows/window_desktop.h"
 
 namespace korvantes::host {
 
@@ -19,7 +19,7 @@ bool displayAvailable() {
   return displayAnswers();
 }
 
-std::unique_ptr<scripts::ScriptStage> makeWindowStage() {
+std::unique_ptr<scripts::Stage> makeWindowStage() {
   if (!displayAvailable()) ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
   return std::make_unique<scripts::WindowStage>();
 }

@@ -16,7 +16,7 @@ bool hasWindows();
 bool displayAvailable();
 
 /// A stage of real windows, on the display or, without one, drawn in memory. One at a time.
-std::unique_ptr<scripts::ScriptStage> makeWindowStage();
+std::unique_ptr<scripts::Stage> makeWindowStage();
 
 /// Opens the main window and returns when it has been closed. Throws Failure without a display.
 void runDesktop(const CommandLine& line);

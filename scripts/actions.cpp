@@ -6,6 +6,7 @@
 
 #include "scripts/controls.h"
 #include "scripts/failure.h"
+#include "scripts/key_names.h"
 #include "scripts/printed_values.h"
 #include "scripts/words.h"
 
@@ -13,10 +14,10 @@ namespace korvantes::scripts {
 namespace {
 
 /// One action: what follows the verb's blank, as it stands.
-using Action = void (*)(ScriptRun& run, std::string_view text);
+using Action = void (*)(Run& run, std::string_view text);
 
-void open(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void open(Run& run, std::string_view text) {
+  Words words(text);
   const std::string_view name = words.word("el nombre de la pantalla");
   std::optional<std::int32_t> number;
   if (!words.atEnd()) number = static_cast<std::int32_t>(words.number("el número", 0));
@@ -26,15 +27,15 @@ void open(ScriptRun& run, std::string_view text) {
   screen->second(number);
 }
 
-void goTo(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void goTo(Run& run, std::string_view text) {
+  Words words(text);
   screen::Control& control = usableControl(run, words.word("el control"));
   words.end();
   if (!control.canTakeFocus()) throw Failure(control.identity() + " no puede recibir el foco");
-  run.stage.moveFocus(control);
+  run.user().moveFocus(control);
 }
 
-void requireFocus(const ScriptRun& run) {
+void requireFocus(const Run& run) {
   if (run.form().ActiveControl() == nullptr) throw Failure("ningún control tiene el foco");
 }
 
@@ -42,45 +43,45 @@ void requireText(std::string_view text) {
   if (text.empty()) throw Failure("falta el texto");
 }
 
-void typeText(ScriptRun& run, std::string_view text) {
+void typeText(Run& run, std::string_view text) {
   requireText(text);
   requireFocus(run);
-  run.stage.type(text);
+  run.user().type(text);
 }
 
-void pasteText(ScriptRun& run, std::string_view text) {
+void pasteText(Run& run, std::string_view text) {
   requireText(text);
   requireFocus(run);
-  if (!run.stage.paste(text)) throw Failure("el control con el foco no admite texto");
+  if (!run.user().paste(text)) throw Failure("el control con el foco no admite texto");
 }
 
-void clearText(ScriptRun& run, std::string_view text) {
-  ScriptWords(text).end();
+void clearText(Run& run, std::string_view text) {
+  Words(text).end();
   requireFocus(run);
-  if (!run.stage.clearText())
+  if (!run.user().clearText())
     throw Failure("el control con el foco no tiene texto que se pueda borrar");
 }
 
-void strikeKey(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void strikeKey(Run& run, std::string_view text) {
+  Words words(text);
   const std::string_view name = words.word("la tecla");
   words.end();
   run.form();
-  const std::optional<screen::Key> key = screen::keyNamed(name);
+  const std::optional<screen::Key> key = keyNamed(name);
   if (!key) throw Failure("no se conoce la tecla " + inQuotes(name));
-  run.stage.stroke(*key);
+  run.user().stroke(*key);
 }
 
-void pushButton(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void pushButton(Run& run, std::string_view text) {
+  Words words(text);
   auto& button = usableControl<screen::PictureButton>(run, words.word("el botón"), "un botón");
   words.end();
-  run.stage.click(button);
+  run.user().click(button);
 }
 
 /// A mark that is already as wanted needs no click; the focus goes there all the same.
-void setMark(ScriptRun& run, std::string_view text, bool checked) {
-  ScriptWords words(text);
+void setMark(Run& run, std::string_view text, bool checked) {
+  Words words(text);
   screen::Control& control = usableControl(run, words.word("la casilla"));
   if (auto* list = dynamic_cast<screen::ListView*>(&control)) {
     const std::size_t row = words.number("la fila", 1);
@@ -88,85 +89,85 @@ void setMark(ScriptRun& run, std::string_view text, bool checked) {
     if (row > list->Count())
       throw Failure(list->identity() + " no tiene la fila " + std::to_string(row));
     if (list->item(row - 1).Checked == checked)
-      run.stage.moveFocus(control);
+      run.user().moveFocus(control);
     else
-      run.stage.tick(*list, row - 1, checked);
+      run.user().tick(*list, row - 1, checked);
     return;
   }
   const auto* box = dynamic_cast<const screen::CheckBox*>(&control);
   if (box == nullptr) throw Failure(control.identity() + " no es una casilla");
   words.end();
   if ((box->Value() != 0) == checked)
-    run.stage.moveFocus(control);
+    run.user().moveFocus(control);
   else
-    run.stage.click(control);
+    run.user().click(control);
 }
 
-void mark(ScriptRun& run, std::string_view text) {
+void mark(Run& run, std::string_view text) {
   setMark(run, text, true);
 }
-void unmark(ScriptRun& run, std::string_view text) {
+void unmark(Run& run, std::string_view text) {
   setMark(run, text, false);
 }
 
-void selectOption(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void selectOption(Run& run, std::string_view text) {
+  Words words(text);
   auto& option =
       usableControl<screen::OptionButton>(run, words.word("la opción"), "un botón de opción");
   words.end();
-  run.stage.click(option);
+  run.user().click(option);
 }
 
-void chooseEntry(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void chooseEntry(Run& run, std::string_view text) {
+  Words words(text);
   auto& combo =
       usableControl<screen::ComboBox>(run, words.word("la lista"), "una lista desplegable");
   if (const auto typed = withoutQuotes(words.rest())) {
     if (!combo.Editable()) throw Failure("en " + combo.identity() + " no se puede escribir");
-    run.stage.typeEntry(combo, *typed);
+    run.user().typeEntry(combo, *typed);
     return;
   }
   const std::size_t entry = words.number("la entrada", 0);
   words.end();
   if (entry >= combo.list().size())
     throw Failure(combo.identity() + " no tiene la entrada " + std::to_string(entry));
-  run.stage.selectEntry(combo, static_cast<int>(entry));
+  run.user().selectEntry(combo, static_cast<int>(entry));
 }
 
-void selectRow(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void selectRow(Run& run, std::string_view text) {
+  Words words(text);
   auto& grid = usableControl<screen::DataGrid>(run, words.word("la rejilla"), "una rejilla");
   const std::size_t row = words.number("la fila", 1);
   words.end();
   if (row > grid.RowCount())
     throw Failure(grid.identity() + " no tiene la fila " + std::to_string(row));
-  run.stage.selectRow(grid, row - 1);
+  run.user().selectRow(grid, row - 1);
 }
 
-void clickHeading(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void clickHeading(Run& run, std::string_view text) {
+  Words words(text);
   auto& list = usableControl<screen::ListView>(run, words.word("la lista"), "una lista");
   const std::size_t column = words.number("la columna", 1);
   words.end();
   if (column > list.ColumnHeaders.size() || list.ColumnHeaders[column - 1].Width == 0)
     throw Failure(list.identity() + " no muestra la columna " + std::to_string(column));
-  run.stage.clickColumn(list, static_cast<int>(column));
+  run.user().clickColumn(list, static_cast<int>(column));
 }
 
-void pressCell(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void pressCell(Run& run, std::string_view text) {
+  Words words(text);
   auto& grid = usableControl<screen::DataGrid>(run, words.word("la rejilla"), "una rejilla");
   const std::size_t column = words.number("la columna", 0);
   words.end();
   if (!grid.currentRow()) throw Failure(grid.identity() + " no tiene fila actual");
   if (column >= grid.ColumnCount() || !grid.Columns(column).Visible || !grid.Columns(column).Button)
     throw Failure(grid.identity() + " no tiene botón en la columna " + std::to_string(column));
-  run.stage.pressCellButton(grid, static_cast<int>(column));
+  run.user().pressCellButton(grid, static_cast<int>(column));
 }
 
-void queueAnswer(ScriptRun& run, std::string_view text) {
+void queueAnswer(Run& run, std::string_view text) {
   using Button = QueuedAnswers::Button;
-  ScriptWords words(text);
+  Words words(text);
   const std::string_view name = words.word("la respuesta");
   words.end();
   if (name == "Sí")
@@ -181,10 +182,10 @@ void queueAnswer(ScriptRun& run, std::string_view text) {
     throw Failure("no se conoce la respuesta " + inQuotes(name));
 }
 
-void queueListChoice(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void queueListChoice(Run& run, std::string_view text) {
+  Words words(text);
   QueuedAnswers::ListChoice choice;
-  if (ScriptWords(words).word("la fila") == "nada")
+  if (Words(words).word("la fila") == "nada")
     words.word("la fila");
   else
     choice.row = words.number("la fila", 1);
@@ -195,8 +196,8 @@ void queueListChoice(ScriptRun& run, std::string_view text) {
   run.answers.add(choice);
 }
 
-void queueFile(ScriptRun& run, std::string_view text) {
-  const std::string_view path = ScriptWords(text).rest();
+void queueFile(Run& run, std::string_view text) {
+  const std::string_view path = Words(text).rest();
   if (path.empty()) throw Failure("falta la ruta");
   if (path == "nada")
     run.answers.addFile(std::nullopt);
@@ -204,32 +205,32 @@ void queueFile(ScriptRun& run, std::string_view text) {
     run.answers.addFile(std::string(path));
 }
 
-void runStatement(ScriptRun& run, std::string_view text) {
-  if (ScriptWords(text).atEnd()) throw Failure("falta la sentencia");
+void runStatement(Run& run, std::string_view text) {
+  if (Words(text).atEnd()) throw Failure("falta la sentencia");
   printStatement(run.base, text, run.transcript.stream());
 }
 
 std::string pictureName(std::string_view text) {
-  const std::string_view name = ScriptWords(text).rest();
+  const std::string_view name = Words(text).rest();
   if (name.empty()) throw Failure("falta el fichero");
   if (!name.ends_with(".png")) throw Failure("el nombre de una captura acaba en .png");
   return std::string(name);
 }
 
-void takePicture(ScriptRun& run, std::string_view text) {
+void takePicture(Run& run, std::string_view text) {
   const std::string name = pictureName(text);
   run.form();
   run.pictures.take(name);
 }
 
-void queuePicture(ScriptRun& run, std::string_view text) {
+void queuePicture(Run& run, std::string_view text) {
   run.pictures.takeOfNextDialog(pictureName(text));
 }
 
-void closeForm(ScriptRun& run, std::string_view text) {
-  ScriptWords(text).end();
+void closeForm(Run& run, std::string_view text) {
+  Words(text).end();
   run.form();
-  run.stage.close();
+  run.user().close();
 }
 
 struct NamedAction {
@@ -264,7 +265,7 @@ constexpr NamedAction kActions[] = {
 
 }  // namespace
 
-void performAction(ScriptRun& run, std::string_view line) {
+void performAction(Run& run, std::string_view line) {
   const auto blank = line.find_first_of(" \t");
   const std::string_view verb = line.substr(0, blank);
   const std::string_view text =
@@ -272,7 +273,7 @@ void performAction(ScriptRun& run, std::string_view line) {
   for (const NamedAction& each : kActions) {
     if (each.verb != verb) continue;
     each.action(run, text);
-    run.stage.settle();
+    run.user().settle();
     return;
   }
   throw Failure("no se conoce la acción " + inQuotes(verb));

@@ -8,15 +8,15 @@
 namespace korvantes::scripts {
 
 /// A control of the topmost form, by its identity. Throws Failure when there is none.
-screen::Control& findControl(const ScriptRun& run, std::string_view identity);
+screen::Control& findControl(const Run& run, std::string_view identity);
 
 /// The same, for an action on it: a hidden or a disabled one, or one in a disabled frame, is a
 /// Failure too.
-screen::Control& usableControl(const ScriptRun& run, std::string_view identity);
+screen::Control& usableControl(const Run& run, std::string_view identity);
 
 /// The control as the kind that an action needs; a Failure "Text1(0) no es un botón" otherwise.
 template <class T>
-T& usableControl(const ScriptRun& run, std::string_view identity, std::string_view kindName) {
+T& usableControl(const Run& run, std::string_view identity, std::string_view kindName) {
   screen::Control& control = usableControl(run, identity);
   T* wanted = dynamic_cast<T*>(&control);
   if (wanted == nullptr) throw Failure(control.identity() + " no es " + std::string(kindName));

@@ -9,7 +9,7 @@
 
 namespace korvantes::scripts {
 
-void ScriptPictures::take(const std::string& name) {
+void Pictures::take(const std::string& name) {
   if (!stage_.draws()) {
     transcript_.happening("captura", "sin pantalla");
     return;
@@ -24,7 +24,7 @@ void ScriptPictures::take(const std::string& name) {
   transcript_.happening("captura", name);
 }
 
-void ScriptPictures::dialogShown() {
+void Pictures::dialogShown() {
   if (waiting_.empty()) return;
   const std::string name = std::exchange(waiting_.front(), {});
   waiting_.pop_front();

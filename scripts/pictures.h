@@ -13,9 +13,9 @@ namespace korvantes::scripts {
 /// The pictures that a script takes of the windows. A name without a folder of its own lands in
 /// that of the program's output, which is made when it is missing. Each picture is a happening of
 /// the transcript, "[captura] NAME", or "[captura] sin pantalla" on a stage that draws nothing.
-class ScriptPictures {
+class Pictures {
  public:
-  ScriptPictures(ScriptStage& stage, Transcript& transcript, std::filesystem::path folder)
+  Pictures(Stage& stage, Transcript& transcript, std::filesystem::path folder)
       : stage_(stage), transcript_(transcript), folder_(std::move(folder)) {}
 
   /// Of the topmost window. Throws Failure or ado::Error when it cannot be written.
@@ -26,7 +26,7 @@ class ScriptPictures {
   void dialogShown();
 
  private:
-  ScriptStage& stage_;
+  Stage& stage_;
   Transcript& transcript_;
   std::filesystem::path folder_;
   std::deque<std::string> waiting_;

@@ -27,8 +27,8 @@ std::deque<std::string> linesOf(std::string_view script) {
 
 }  // namespace
 
-ScriptPlayer::ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens screens,
-                           std::ostream& out, std::filesystem::path folder)
+Player::Player(Stage& stage, ado::Connection& base, Screens screens, std::ostream& out,
+               std::filesystem::path folder)
     : stage_(stage),
       formerDesktop_(screen::Desktop::makeCurrent(&stage.desktop())),
       screens_(std::move(screens)),
@@ -42,22 +42,22 @@ ScriptPlayer::ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens sc
     pictures_.dialogShown();
     return reply;
   };
-  stage_.follow(
-      {.whileShown = [this](screen::Form& form) { playTopForm(form); },
-       .onMessage = answer,
-       .onList = answer,
-       .onFile = [this](const screen::FileDialog& dialog) { return answers_.answer(dialog); },
-       .onClosed =
-           [this](const screen::Form& form) { transcript_.happening("cerrado", form.name()); }});
+  stage_.whileShown = [this](screen::Form& form) { playTopForm(form); };
+  stage_.onMessage = answer;
+  stage_.onList = answer;
+  stage_.onFile = [this](const screen::FileDialog& dialog) { return answers_.answer(dialog); };
+  stage_.onClosed = [this](const screen::Form& form) {
+    transcript_.happening("cerrado", form.name());
+  };
 }
 
-ScriptPlayer::~ScriptPlayer() {
-  stage_.follow({});
+Player::~Player() {
+  stage_.cues() = {};
   withdrawDocuments(office::objectsOf(stage_.desktop()));
   screen::Desktop::makeCurrent(formerDesktop_);
 }
 
-int ScriptPlayer::play(std::string_view script) {
+int Player::play(std::string_view script) {
   lines_ = linesOf(script);
   while (playNextLine()) {
   }
@@ -66,7 +66,7 @@ int ScriptPlayer::play(std::string_view script) {
 
 /// False when the script has ended. Lines that follow an opened screen are played in here too,
 /// until that screen closes.
-bool ScriptPlayer::playNextLine() {
+bool Player::playNextLine() {
   if (lines_.empty()) return false;
   const std::string line = std::move(lines_.front());
   lines_.pop_front();
@@ -80,9 +80,9 @@ bool ScriptPlayer::playNextLine() {
   return true;
 }
 
-void ScriptPlayer::playTopForm(screen::Form& form) {
+void Player::playTopForm(screen::Form& form) {
   if (playNextLine()) return;
-  stage_.close();
+  stage_.user().close();
   form.Unload();
 }
 

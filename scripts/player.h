@@ -16,14 +16,14 @@ namespace korvantes::scripts {
 ///
 /// A line that cannot be done is an "[error]" and the run goes on. A form still open when the
 /// script has ended is closed.
-class ScriptPlayer {
+class Player {
  public:
   /// Reports, spreadsheets and pictures go to `folder`, pictures only where their names name none.
-  ScriptPlayer(ScriptStage& stage, ado::Connection& base, Screens screens, std::ostream& out,
-               std::filesystem::path folder = {});
-  ~ScriptPlayer();
-  ScriptPlayer(const ScriptPlayer&) = delete;
-  ScriptPlayer& operator=(const ScriptPlayer&) = delete;
+  Player(Stage& stage, ado::Connection& base, Screens screens, std::ostream& out,
+         std::filesystem::path folder = {});
+  ~Player();
+  Player(const Player&) = delete;
+  Player& operator=(const Player&) = delete;
 
   /// Gives the number of errors.
   int play(std::string_view script);
@@ -32,13 +32,13 @@ class ScriptPlayer {
   bool playNextLine();
   void playTopForm(screen::Form& form);
 
-  ScriptStage& stage_;
+  Stage& stage_;
   screen::Desktop* formerDesktop_;
   Screens screens_;
   Transcript transcript_;
   QueuedAnswers answers_;
-  ScriptPictures pictures_;
-  ScriptRun run_;
+  Pictures pictures_;
+  Run run_;
   std::deque<std::string> lines_;
 };
 

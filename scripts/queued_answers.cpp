@@ -29,8 +29,7 @@ const char* nameOf(QueuedAnswers::Button button) {
 
 }  // namespace
 
-screen::HeadlessDesktop::Reply<screen::Answer> QueuedAnswers::answer(
-    const screen::MessageBox& box) {
+Reply<screen::Answer> QueuedAnswers::answer(const screen::MessageBox& box) {
   transcript_.happening("mensaje " + std::to_string(box.style), box.title + " | " + box.text);
   const screen::Answer byDefault = box.defaultAnswer();
   const std::optional<Button> button = takeFirst(buttons_);
@@ -43,8 +42,7 @@ screen::HeadlessDesktop::Reply<screen::Answer> QueuedAnswers::answer(
   return {byDefault};
 }
 
-screen::HeadlessDesktop::Reply<std::optional<std::size_t>> QueuedAnswers::answer(
-    const screen::ListDialog& dialog) {
+Reply<std::optional<std::size_t>> QueuedAnswers::answer(const screen::ListDialog& dialog) {
   transcript_.happening("lista",
                         dialog.title + " | " + std::to_string(dialog.rows.size()) + " filas");
   const std::optional<ListChoice> choice = takeFirst(choices_);

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/cues.h"
 #include "scripts/transcript.h"
 
 namespace korvantes::scripts {
@@ -30,9 +30,8 @@ class QueuedAnswers {
   /// Nothing: leave the dialog.
   void addFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
 
-  screen::HeadlessDesktop::Reply<screen::Answer> answer(const screen::MessageBox& box);
-  screen::HeadlessDesktop::Reply<std::optional<std::size_t>> answer(
-      const screen::ListDialog& dialog);
+  Reply<screen::Answer> answer(const screen::MessageBox& box);
+  Reply<std::optional<std::size_t>> answer(const screen::ListDialog& dialog);
   std::optional<std::string> answer(const screen::FileDialog& dialog);
 
  private:

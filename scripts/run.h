@@ -10,14 +10,15 @@
 namespace korvantes::scripts {
 
 /// What the actions of a script act on.
-struct ScriptRun {
-  ScriptStage& stage;
+struct Run {
+  Stage& stage;
   ado::Connection& base;
   const Screens& screens;
   Transcript& transcript;
   QueuedAnswers& answers;
-  ScriptPictures& pictures;
+  Pictures& pictures;
 
+  User& user() const { return stage.user(); }
   /// The topmost form. Throws Failure when none is open.
   screen::Form& form() const;
 };

@@ -25,8 +25,8 @@ void printControl(Transcript& transcript, const screen::Control& control) {
 
 }  // namespace
 
-void showOnTranscript(ScriptRun& run, std::string_view text) {
-  ScriptWords words(text);
+void showOnTranscript(Run& run, std::string_view text) {
+  Words words(text);
   const std::string_view subject = words.word("qué hay que ver");
   words.end();
   const screen::Form& form = run.form();

@@ -18,7 +18,7 @@ std::string_view trimmed(std::string_view text) {
 
 }  // namespace
 
-std::string_view ScriptWords::word(std::string_view whatIsMissing) {
+std::string_view Words::word(std::string_view whatIsMissing) {
   text_ = trimmed(text_);
   if (text_.empty()) throw Failure("falta " + std::string(whatIsMissing));
   const auto length = text_.find_first_of(kBlanks);
@@ -27,21 +27,21 @@ std::string_view ScriptWords::word(std::string_view whatIsMissing) {
   return found;
 }
 
-std::size_t ScriptWords::number(std::string_view whatItIs, std::size_t smallest) {
+std::size_t Words::number(std::string_view whatItIs, std::size_t smallest) {
   return static_cast<std::size_t>(readWholeNumber(whatItIs, word(whatItIs),
                                                   static_cast<std::int64_t>(smallest),
                                                   std::numeric_limits<std::int32_t>::max()));
 }
 
-bool ScriptWords::atEnd() const {
+bool Words::atEnd() const {
   return trimmed(text_).empty();
 }
 
-std::string_view ScriptWords::rest() const {
+std::string_view Words::rest() const {
   return trimmed(text_);
 }
 
-void ScriptWords::end() const {
+void Words::end() const {
   if (!atEnd()) throw Failure("sobra " + inQuotes(rest()));
 }
 

@@ -8,9 +8,9 @@
 namespace korvantes::scripts {
 
 /// The words behind the verb of a script's line, taken from the left.
-class ScriptWords {
+class Words {
  public:
-  explicit ScriptWords(std::string_view text) : text_(text) {}
+  explicit Words(std::string_view text) : text_(text) {}
 
   /// The next word. Throws Failure, with the name of what is missing, when there is none.
   std::string_view word(std::string_view whatIsMissing);

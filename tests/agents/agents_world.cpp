@@ -30,7 +30,7 @@ void Screen::typeRegime(std::string_view text) const {
 
 void Screen::row(std::size_t place) const {
   desktop.user().selectRow(control<screen::DataGrid>("dboOper"), place);
-  desktop.settle();
+  desktop.user().settle();
 }
 
 std::vector<std::string> Screen::contents() const {

@@ -27,7 +27,7 @@ TEST(AgentsSave, WhatIsTypedIsStoredAndReadBackUnchanged) {
     world.show([&](Screen& screen) {
       screen.click("cmdNuevo");
       screen.type(1, name);
-      if (name.size() == 200) screen.desktop.type("x");  // one character too many
+      if (name.size() == 200) screen.desktop.user().type("x");  // one character too many
       screen.type(2, "12345678a");
       screen.type(6, "+34 (91) 555-01.02");
       screen.type(8, "Ana+ventas@Ejemplo.ES");

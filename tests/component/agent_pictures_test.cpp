@@ -35,7 +35,7 @@ constexpr std::string_view kTif(
     "II*\0\x08\0\0\0\2\0\0\1\3\0\1\0\0\0\x40\1\0\0\1\1\4\0\1\0\0\0\xF0\0\0\0", 34);
 
 /// The machine, with files that may turn out bad.
-struct Stage : screen::HeadlessDesktop {
+struct Stage : scripts::HeadlessDesktop {
   std::function<void(const std::string&)> beforeSave, beforeLoad;
   bool loadsNothing = false;
 
@@ -81,7 +81,7 @@ struct AgentPictures : testing::Test {
     desktop.onMessage = [this](const screen::MessageBox& box) {
       messages.push_back("[" + std::to_string(box.style) + "] " + box.title + " | " + box.text);
       EXPECT_TRUE(left().empty()) << "while the box is on screen";
-      return screen::HeadlessDesktop::Reply<screen::Answer>{box.defaultAnswer()};
+      return scripts::Reply<screen::Answer>{box.defaultAnswer()};
     };
     component->MyBd(std::make_shared<plindor::BaseDatos>(connection));
     sql("INSERT INTO AGE (AGE_ID,AGE_NOM) VALUES (7,'Ana')");

@@ -4,7 +4,8 @@
 
 #include "component/mdoKORVANTES.h"
 #include "data/commission_rule.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
+#include "scripts/key_names.h"
 #include "tests/support/recording_connection.h"
 
 namespace korvantes {
@@ -29,7 +30,7 @@ struct KorvanTest : testing::Test {
     return std::make_shared<plindor::BaseDatos>(connection);
   }
 
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   screen::Desktop* former;
   std::shared_ptr<RecordingConnection> one = std::make_shared<RecordingConnection>();
   std::shared_ptr<RecordingConnection> two = std::make_shared<RecordingConnection>();
@@ -56,8 +57,8 @@ TEST_F(KorvanTest, TheLatestObjectServesEveryScreen) {
   EXPECT_EQ(mdoKORVANTES::oComponente(), second);
 
   desktop.whileShown = [&](screen::Form& form) {
-    desktop.stroke(*screen::keyNamed("F1"));
-    desktop.settle();
+    desktop.user().stroke(*scripts::keyNamed("F1"));
+    desktop.user().settle();
     form.Unload();
   };
   two->answer(support::resultOf({"k", "AGE_ID", "AGE_NOM"}, {}));

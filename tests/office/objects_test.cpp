@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "runtime/ado/error.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 
 namespace korvantes::office {
 namespace {
@@ -20,7 +20,7 @@ struct Numbered : Object {
 struct CreateObjectTest : testing::Test {
   CreateObjectTest() : former(screen::Desktop::makeCurrent(&desktop)) {}
   ~CreateObjectTest() override { screen::Desktop::makeCurrent(former); }
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   screen::Desktop* former;
 };
 

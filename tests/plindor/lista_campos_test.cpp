@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "runtime/ado/error.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 
 namespace korvantes::plindor {
 namespace {
@@ -19,7 +19,7 @@ struct ListaCamposTest : testing::Test {
     desktop.regional(screen::Regional::named("es-ES"));
   }
   ~ListaCamposTest() override { screen::Desktop::makeCurrent(former); }
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   screen::Desktop* former;
 };
 

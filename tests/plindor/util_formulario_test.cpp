@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <limits>
 
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 #include "tests/support/recording_connection.h"
 
 namespace korvantes::plindor {
@@ -43,7 +43,7 @@ struct UtilFormularioTest : testing::Test {
     return form.box.Text();
   }
 
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   screen::Desktop* former;
   OneBox form;
   UtilFormulario util;
@@ -183,7 +183,7 @@ TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
     shown = {list.title, list.codeTitle, list.nameTitle, std::to_string(list.codeWidth),
              std::to_string(list.nameWidth)};
     for (const auto& row : list.rows) shown.push_back(row.code + "=" + row.name);
-    return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{choice};
+    return scripts::Reply<std::optional<std::size_t>>{choice};
   };
   const auto search = [&] {
     return util.BuscaEnLista("Select (0) as k ,AGE_ID,AGE_NOM FROM AGE", "AGE_NOM", "Codigo",

@@ -46,7 +46,7 @@ void Screen::type(int index, std::string_view typed) const {
 
 void Screen::tick(std::size_t row, bool checked) const {
   desktop.user().tick(list(), row, checked);
-  desktop.settle();
+  desktop.user().settle();
 }
 
 void Screen::search(std::string_view agent, bool collected, bool pending) const {

@@ -11,7 +11,7 @@
 
 #include "office/sheet/spreadsheet.h"
 #include "runtime/screen/form.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 #include "tests/support/failure.h"
 #include "tests/support/temporary_folder.h"
 
@@ -31,7 +31,7 @@ struct SheetWorld : SheetOutlet {
   }
   ~SheetWorld() override { screen::Desktop::makeCurrent(nullptr); }
 
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   screen::Form form{"frmPrueba"};
   screen::ListView list{form, "ListView1"};
   screen::DataGrid grid{form, "dbgLiqui"};

@@ -20,8 +20,8 @@ std::string print(const office::Argument& argument) {
 
 struct Recorder : office::Object {
   OutsideJournal& journal;
-  screen::HeadlessDesktop& desktop;
-  Recorder(OutsideJournal& kept, screen::HeadlessDesktop& shown) : journal(kept), desktop(shown) {}
+  scripts::HeadlessDesktop& desktop;
+  Recorder(OutsideJournal& kept, scripts::HeadlessDesktop& shown) : journal(kept), desktop(shown) {}
   ~Recorder() override { journal.lines.push_back("released"); }
   void set(std::string_view property, const office::Argument& value) override {
     journal.lines.push_back(std::string(property) + " = " + print(value));
@@ -39,7 +39,7 @@ struct Recorder : office::Object {
 
 }  // namespace
 
-void OutsideJournal::offer(screen::HeadlessDesktop& desktop) {
+void OutsideJournal::offer(scripts::HeadlessDesktop& desktop) {
   for (const char* name : {"marzenes.MZPrint", "BELTRIS.bSheets"})
     office::objectsOf(desktop).add(name,
                                    [&] { return std::make_unique<Recorder>(*this, desktop); });

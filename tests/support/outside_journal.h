@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
 
 namespace korvantes::support {
 
@@ -15,7 +15,7 @@ struct OutsideJournal {
   std::string failure;
 
   /// Registers the objects of both names; the journal has to outlive them.
-  void offer(screen::HeadlessDesktop& desktop);
+  void offer(scripts::HeadlessDesktop& desktop);
 };
 
 }  // namespace korvantes::support

@@ -11,7 +11,8 @@
 #include <vector>
 
 #include "component/KORVAN.h"
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/headless_desktop.h"
+#include "scripts/key_names.h"
 #include "tests/support/faulty_connection.h"
 #include "tests/support/temporary_database.h"
 
@@ -20,7 +21,7 @@ namespace korvantes::support {
 /// An open screen, as its user handles it.
 template <class Form>
 struct OpenScreen {
-  screen::HeadlessDesktop& desktop;
+  scripts::HeadlessDesktop& desktop;
   Form& form;
 
   template <class T = screen::Control>
@@ -31,24 +32,24 @@ struct OpenScreen {
   }
   void go(const std::string& identity) const {
     desktop.user().moveFocus(control(identity));
-    desktop.settle();
+    desktop.user().settle();
   }
   void click(const std::string& identity) const {
     desktop.user().click(control(identity));
-    desktop.settle();
+    desktop.user().settle();
   }
-  void press(std::string_view key) const { desktop.stroke(*screen::keyNamed(key)); }
+  void press(std::string_view key) const { desktop.user().stroke(*scripts::keyNamed(key)); }
   /// Goes to the box, empties it and types or pastes the text.
   void typeInto(const std::string& box, std::string_view text) const {
     go(box);
     desktop.user().clearText();
-    desktop.type(text);
+    desktop.user().type(text);
   }
   void pasteInto(const std::string& box, std::string_view text) const {
     go(box);
     desktop.user().clearText();
     desktop.user().paste(text);
-    desktop.settle();
+    desktop.user().settle();
   }
 };
 
@@ -95,7 +96,7 @@ class ScreenWorld {
   /// What the user chooses in the next list dialogs, by its place from 0.
   void chooseFromLists(std::size_t row);
 
-  screen::HeadlessDesktop desktop;
+  scripts::HeadlessDesktop desktop;
   std::shared_ptr<ScreenLink> connection;
   /// Message boxes since the last clear: "[16] title | text".
   std::vector<std::string> messages;

@@ -1,4 +1,4 @@
-#include "desktop/robot.h"
+#include "scripts/windows/window_user.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -12,19 +12,21 @@
 #include "desktop/cell_button.h"
 #include "desktop/choice_dialog.h"
 #include "desktop/form_window.h"
-#include "desktop/input_events.h"
 #include "desktop/look.h"
 #include "desktop/message_dialog.h"
 #include "desktop/row_table.h"
 #include "desktop/window_stack.h"
 #include "runtime/ado/utf8.h"
+#include "scripts/windows/input_events.h"
 
-namespace korvantes::desktop {
+namespace korvantes::scripts {
+
+using desktop::ChoiceDialog;
+using desktop::FormWindow;
+using desktop::MessageDialog;
+using desktop::RowTable;
 
 namespace {
-
-const screen::Key kEnter = screen::keyTyping(U'\r');
-const screen::Key kEscape = screen::keyTyping(27);
 
 /// Where the caret stands, or the end of the text: a click there changes no selection.
 QPoint caretPlace(const QLineEdit& field, const screen::TextBox& box) {
@@ -36,25 +38,25 @@ QPoint caretPlace(const QLineEdit& field, const screen::TextBox& box) {
 
 }  // namespace
 
-FormWindow& Robot::window() const {
-  FormWindow* const window = desktop_.stack_->topForm();
+FormWindow& WindowUser::window() const {
+  FormWindow* const window = stack_.topForm();
   if (window == nullptr) throw std::logic_error("No hay ninguna pantalla abierta");
   return *window;
 }
 
 /// What the toolkit kept back is for the script.
-void Robot::done() {
-  desktop_.stack_->rethrow();
+void WindowUser::done() {
+  stack_.rethrow();
 }
 
-bool Robot::direct(const std::function<bool(screen::UserInput&)>& action) {
+bool WindowUser::tell(const std::function<bool(screen::UserInput&)>& action) {
   bool result = false;
   window().report([&](screen::UserInput& user) { result = action(user); });
   done();
   return result;
 }
 
-bool Robot::clickOn(screen::Control& control) {
+bool WindowUser::clickOn(screen::Control& control) {
   window().reveal(control);
   QWidget& widget = window().faceOf(control)->widget();
   const QRect area = widget.rect();
@@ -68,66 +70,58 @@ bool Robot::clickOn(screen::Control& control) {
   return false;
 }
 
-bool Robot::moveFocus(screen::Control& control) {
-  const auto hasFocus = [&] {
-    return desktop_.forms_.empty() ? false : control.form().ActiveControl() == &control;
-  };
+void WindowUser::moveFocus(screen::Control& control) {
   if (control.kind() == screen::Control::Kind::TextBox && control.canTakeFocus()) {
     window().reveal(control);
     auto& field = static_cast<QLineEdit&>(window().faceOf(control)->widget());
     const QPoint place = caretPlace(field, static_cast<screen::TextBox&>(control));
     if (canBeHit(field, place)) {
       sendClick(field, place);
-      done();
-      return hasFocus();
+      return done();
     }
   }
-  return direct([&](screen::UserInput& user) { return user.moveFocus(control); });
+  User::moveFocus(control);
 }
 
-void Robot::stroke(const screen::Key& key) {
+/// The release goes to the window that is on top by then.
+void WindowUser::strike(QWidget& window, const screen::Key& key) {
+  sendPress(window, key);
+  if (QWidget* top = stack_.top()) sendRelease(*top, key);
+}
+
+void WindowUser::stroke(const screen::Key& key) {
   window();
-  sendPress(*desktop_.stack_->top(), key);
-  if (QWidget* top = desktop_.stack_->top()) sendRelease(*top, key);
+  strike(*stack_.top(), key);
   done();
   settle();
 }
 
-void Robot::type(std::string_view text) {
-  for (const char32_t character : ado::toCodePoints(text)) stroke(screen::keyTyping(character));
-}
-
-bool Robot::paste(std::string_view text) {
+bool WindowUser::paste(std::string_view text) {
   const screen::Control* active = window().form().ActiveControl();
   const bool field = active != nullptr && (active->kind() == screen::Control::Kind::TextBox ||
                                            active->kind() == screen::Control::Kind::ComboBox);
-  if (!field || !active->usable() || window().focusWidget() == nullptr)
-    return direct([&](screen::UserInput& user) { return user.paste(text); });
+  if (!field || !active->usable() || window().focusWidget() == nullptr) return User::paste(text);
   const auto* box = dynamic_cast<const screen::TextBox*>(active);
   const auto* combo = dynamic_cast<const screen::ComboBox*>(active);
   QInputMethodEvent event;
-  event.setCommitString(toQt(text));
+  event.setCommitString(desktop::toQt(text));
   QCoreApplication::sendEvent(window().focusWidget(), &event);
   done();
   return box != nullptr ? !box->Locked() : combo->Editable();
 }
 
-bool Robot::clearText() {
-  return direct([](screen::UserInput& user) { return user.clearText(); });
-}
-
-bool Robot::click(screen::Control& control) {
+void WindowUser::click(screen::Control& control) {
   using Kind = screen::Control::Kind;
   const bool pushed = control.kind() == Kind::PictureButton || control.kind() == Kind::CheckBox ||
                       control.kind() == Kind::OptionButton;
-  if (!control.usable()) return false;
-  if (pushed && clickOn(control)) return true;
-  return direct([&](screen::UserInput& user) { return user.click(control); });
+  if (!control.usable()) return;
+  if (pushed && clickOn(control)) return;
+  User::click(control);
 }
 
 /// Scrolls to the cell and clicks in it.
-bool Robot::clickCell(screen::Control& control, int row, int column,
-                      const std::function<QPoint(const QModelIndex& cell)>& place) {
+bool WindowUser::clickCell(screen::Control& control, int row, int column,
+                           const std::function<QPoint(const QModelIndex& cell)>& place) {
   if (!control.usable()) return false;
   window().reveal(control);
   window().showNow();
@@ -142,19 +136,19 @@ bool Robot::clickCell(screen::Control& control, int row, int column,
   return true;
 }
 
-bool Robot::tick(screen::ListView& list, std::size_t row, bool checked) {
-  if (!list.usable() || row >= list.Count()) return false;
+void WindowUser::tick(screen::ListView& list, std::size_t row, bool checked) {
+  if (!list.usable() || row >= list.Count()) return;
   if (list.item(row).Checked != checked) {
     const auto mark = [&](const QModelIndex& cell) {
       return static_cast<RowTable&>(window().faceOf(list)->widget()).checkMark(cell).center();
     };
-    if (clickCell(list, static_cast<int>(row), 0, mark)) return true;
+    if (clickCell(list, static_cast<int>(row), 0, mark)) return;
   }
-  return direct([&](screen::UserInput& user) { return user.tick(list, row, checked); });
+  User::tick(list, row, checked);
 }
 
-bool Robot::clickColumn(screen::ListView& list, int column) {
-  if (!list.usable()) return false;
+void WindowUser::clickColumn(screen::ListView& list, int column) {
+  if (!list.usable()) return;
   window().reveal(list);
   auto& table = static_cast<RowTable&>(window().faceOf(list)->widget());
   QHeaderView& header = *table.horizontalHeader();
@@ -165,104 +159,94 @@ bool Robot::clickColumn(screen::ListView& list, int column) {
                        header.height() / 2);
     if (canBeHit(*header.viewport(), place)) {
       sendClick(*header.viewport(), place);
-      done();
-      return true;
+      return done();
     }
   }
-  return direct([&](screen::UserInput& user) { return user.clickColumn(list, column); });
+  User::clickColumn(list, column);
 }
 
-bool Robot::selectEntry(screen::ComboBox& combo, int entry) {
-  if (!combo.usable() || entry < 0 || entry >= combo.ListCount()) return false;
+void WindowUser::selectEntry(screen::ComboBox& combo, int entry) {
+  if (!combo.usable() || entry < 0 || entry >= combo.ListCount()) return;
   window().reveal(combo);
   window().showNow();
   auto& widget = static_cast<QComboBox&>(window().faceOf(combo)->widget());
-  if (!canBeHit(widget, widget.rect().center()))
-    return direct([&](screen::UserInput& user) { return user.selectEntry(combo, entry); });
+  if (!canBeHit(widget, widget.rect().center())) return User::selectEntry(combo, entry);
   sendClick(widget, widget.rect().center());
   done();
   // The list opens only where the focus has come.
   QAbstractItemView& view = *widget.view();
-  if (!view.isVisible()) return false;
+  if (!view.isVisible()) return;
   view.setCurrentIndex(view.model()->index(entry, 0));
   QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
   QCoreApplication::sendEvent(&view, &enter);
   done();
-  return true;
 }
 
-bool Robot::typeEntry(screen::ComboBox& combo, std::string_view text) {
-  return direct([&](screen::UserInput& user) { return user.typeEntry(combo, text); });
-}
-
-bool Robot::selectRow(screen::DataGrid& grid, std::size_t row) {
-  if (!grid.usable() || row >= grid.RowCount()) return false;
+void WindowUser::selectRow(screen::DataGrid& grid, std::size_t row) {
+  if (!grid.usable() || row >= grid.RowCount()) return;
   auto& table = static_cast<RowTable&>(window().faceOf(grid)->widget());
   for (int column = 0; column < static_cast<int>(grid.ColumnCount()); ++column) {
     if (table.isColumnHidden(column) || grid.Columns(static_cast<std::size_t>(column)).Button)
       continue;
     const auto middle = [&](const QModelIndex& cell) { return table.visualRect(cell).center(); };
-    if (clickCell(grid, static_cast<int>(row), column, middle)) return true;
+    if (clickCell(grid, static_cast<int>(row), column, middle)) return;
   }
-  return direct([&](screen::UserInput& user) { return user.selectRow(grid, row); });
+  User::selectRow(grid, row);
 }
 
-bool Robot::pressCellButton(screen::DataGrid& grid, int column) {
+void WindowUser::pressCellButton(screen::DataGrid& grid, int column) {
   const auto current = grid.currentRow();
   if (!grid.usable() || !current || column < 0 ||
       static_cast<std::size_t>(column) >= grid.ColumnCount())
-    return false;
+    return;
   const screen::DataGrid::Column& pressed = grid.Columns(static_cast<std::size_t>(column));
-  if (!pressed.Button || !pressed.Visible) return false;
+  if (!pressed.Button || !pressed.Visible) return;
   const auto button = [&](const QModelIndex& cell) {
     const auto& table = static_cast<RowTable&>(window().faceOf(grid)->widget());
-    return cellButton(table.visualRect(cell)).center();
+    return desktop::cellButton(table.visualRect(cell)).center();
   };
-  if (clickCell(grid, static_cast<int>(*current), column, button)) return true;
-  return direct([&](screen::UserInput& user) { return user.pressCellButton(grid, column); });
+  if (clickCell(grid, static_cast<int>(*current), column, button)) return;
+  User::pressCellButton(grid, column);
 }
 
-void Robot::close() {
+void WindowUser::close() {
   window().close();
   done();
 }
 
-void Robot::settle() {
-  desktop_.stack_->settle();
+void WindowUser::settle() {
+  stack_.settle();
   done();
 }
 
-void Robot::answer(MessageDialog& dialog, screen::Answer answer, bool byEnter) {
-  QPushButton* const button = dialog.button(answer);
+void WindowUser::answer(MessageDialog& dialog, const Reply<screen::Answer>& reply) {
+  QPushButton* const button = dialog.button(reply.value);
   if (button == nullptr) throw std::logic_error("El mensaje no tiene ese botón");
-  if (byEnter) {
+  if (reply.byEnter) {
     button->setFocus();
-    sendPress(dialog, kEnter);
-    if (QWidget* below = desktop_.stack_->top()) sendRelease(*below, kEnter);
+    strike(dialog, {screen::key::Enter});
   } else {
     sendClick(*button, button->rect().center());
   }
   if (dialog.isVisible()) throw std::logic_error("El mensaje no se ha cerrado");
 }
 
-void Robot::answer(ChoiceDialog& dialog, std::optional<std::size_t> row, bool byEnter) {
-  if (row) {
+void WindowUser::answer(ChoiceDialog& dialog, const Reply<std::optional<std::size_t>>& reply) {
+  if (reply.value) {
     RowTable& table = dialog.table();
-    const QModelIndex cell = table.model()->index(static_cast<int>(*row), 1);
+    const QModelIndex cell = table.model()->index(static_cast<int>(*reply.value), 1);
     table.scrollTo(cell);
     const QPoint place = table.visualRect(cell).topLeft() + QPoint(4, 4);
-    sendClick(*table.viewport(), place, byEnter ? Clicks::Single : Clicks::Double);
-  } else if (byEnter) {
+    sendClick(*table.viewport(), place, reply.byEnter ? Clicks::Single : Clicks::Double);
+  } else if (reply.byEnter) {
     dialog.leaveButton().setFocus();
   } else {
-    sendPress(dialog, kEscape);
-    if (QWidget* below = desktop_.stack_->top()) sendRelease(*below, kEscape);
+    strike(dialog, {screen::key::Escape});
   }
-  if (byEnter) {
-    sendPress(dialog, kEnter);
-    if (QWidget* below = desktop_.stack_->top()) sendRelease(*below, kEnter);
+  if (reply.byEnter) {
+    strike(dialog, {screen::key::Enter});
   }
   if (dialog.isVisible()) throw std::logic_error("La lista no se ha cerrado");
 }
 
-}  // namespace korvantes::desktop
+}  // namespace korvantes::scripts

@@ -1,4 +1,4 @@
-#include "desktop/input_events.h"
+#include "scripts/windows/input_events.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -9,14 +9,14 @@
 
 #include "desktop/keys.h"
 
-namespace korvantes::desktop {
+namespace korvantes::scripts {
 
 namespace {
 
 void sendKey(QWidget& window, QEvent::Type type, const screen::Key& key) {
   QWindow* const handle = window.windowHandle();
   if (handle == nullptr) return;
-  const QtKey qtKey = qtKeyOf(key);
+  const desktop::QtKey qtKey = desktop::qtKeyOf(key);
   QKeyEvent event(type, qtKey.key, qtKey.modifiers, qtKey.text);
   QCoreApplication::sendEvent(handle, &event);
 }
@@ -55,4 +55,4 @@ bool canBeHit(QWidget& widget, const QPoint& place) {
   return hit == &widget || widget.isAncestorOf(hit);
 }
 
-}  // namespace korvantes::desktop
+}  // namespace korvantes::scripts

@@ -1,14 +1,14 @@
-#include <algorithm>
+#include "scripts/key_names.h"
+
 #include <array>
-#include <optional>
 
 #include "runtime/ado/characters.h"
 #include "runtime/ado/text_order.h"
 #include "runtime/ado/utf8.h"
-#include "runtime/screen/headless_desktop.h"
-#include "runtime/screen/letters.h"
 
-namespace korvantes::screen {
+namespace korvantes::scripts {
+
+namespace key = screen::key;
 
 namespace {
 
@@ -77,41 +77,17 @@ std::optional<int> functionKey(std::string_view name) {
   return key::F1 + number - 1;
 }
 
-std::optional<Key> plainKey(std::string_view name) {
-  if (ado::characterCount(name) == 1) return keyTyping(ado::toCodePoints(name)[0]);
+std::optional<screen::Key> plainKey(std::string_view name) {
+  if (ado::characterCount(name) == 1) return screen::keyTyping(ado::toCodePoints(name)[0]);
   std::optional<int> code = valueOf(kKeys, name);
   if (!code) code = functionKey(name);
   if (!code) return std::nullopt;
-  return Key{*code, 0, *code == key::Space ? U' ' : U'\0'};
+  return screen::Key{*code, 0, *code == key::Space ? U' ' : U'\0'};
 }
 
 }  // namespace
 
-Key keyTyping(char32_t character) {
-  switch (character) {
-    case U'\b':
-      return {key::Back, 0, 0};
-    case U'\t':
-      return {key::Tab, 0, 0};
-    case U'\n':
-    case U'\r':
-      return {key::Enter, 0, 0};
-    case 27:
-      return {key::Escape, 0, 0};
-    case U' ':
-      return {key::Space, 0, character};
-    case U',':
-      return {key::Comma, 0, character};
-    default:
-      break;
-  }
-  if (!isLetterOrDigit(character)) return {key::Packet, 0, character};
-  const char32_t upper = upperCase(character);
-  const bool shifted = upper == character && !(character >= U'0' && character <= U'9');
-  return {static_cast<int>(upper), shifted ? key::ShiftBit : 0, character};
-}
-
-std::optional<Key> keyNamed(std::string_view name) {
+std::optional<screen::Key> keyNamed(std::string_view name) {
   int modifiers = 0;
   // A + at the end is the key itself.
   for (auto plus = name.find('+');
@@ -122,7 +98,7 @@ std::optional<Key> keyNamed(std::string_view name) {
     modifiers |= *modifier;
     name.remove_prefix(plus + 1);
   }
-  std::optional<Key> key = plainKey(name);
+  std::optional<screen::Key> key = plainKey(name);
   if (!key) return std::nullopt;
   key->shift |= modifiers;
   // A chord is a command and types nothing, whatever its letter.
@@ -133,4 +109,4 @@ std::optional<Key> keyNamed(std::string_view name) {
   return key;
 }
 
-}  // namespace korvantes::screen
+}  // namespace korvantes::scripts

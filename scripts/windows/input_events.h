@@ -6,7 +6,7 @@
 
 class QWidget;
 
-namespace korvantes::desktop {
+namespace korvantes::scripts {
 
 /// Key and mouse events as the window system sends them: to the window, which hands them on to its
 /// focus widget or to what lies under the place.
@@ -20,4 +20,4 @@ void sendClick(QWidget& widget, const QPoint& place, Clicks clicks = Clicks::Sin
 /// The place is not covered by another widget.
 bool canBeHit(QWidget& widget, const QPoint& place);
 
-}  // namespace korvantes::desktop
+}  // namespace korvantes::scripts
