@@ -30,7 +30,8 @@ void WindowDesktop::attend(screen::Form& form, desktop::FormWindow& window) {
   if (!played()) return QtDesktop::attend(form, window);
   while (form.loaded()) {
     QCoreApplication::processEvents();
-    if (form.loaded()) whileShown(form);
+    // A copy: the user may set another one while it plays.
+    if (const auto play = whileShown; form.loaded() && play) play(form);
   }
 }
 

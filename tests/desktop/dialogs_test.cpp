@@ -1,13 +1,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
-#include <gmock/gmock.h>
 
 #include "desktop/choice_dialog.h"
 #include "desktop/file_dialog.h"
-#include "desktop/input_events.h"
 #include "desktop/message_dialog.h"
-#include "tests/desktop/stages.h"
+#include "scripts/windows/input_events.h"
+#include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
 
@@ -15,22 +14,9 @@ using testing::ElementsAre;
 
 namespace {
 
-/// The dialog of that type that is open.
-template <class Dialog>
-Dialog& openDialog() {
-  for (QWidget* each : QApplication::topLevelWidgets())
-    if (auto* dialog = dynamic_cast<Dialog*>(each); dialog != nullptr && dialog->isVisible())
-      return *dialog;
-  throw std::logic_error("no such dialog is open");
-}
-
-void press(QWidget& window, const char* key) {
-  sendPress(window, *screen::keyNamed(key));
-}
-
 /// Shows the box to a user who strikes a key.
 screen::Answer answered(QtDesktop& desktop, const screen::MessageBox& box, const char* key) {
-  QTimer::singleShot(0, [key] { press(openDialog<MessageDialog>(), key); });
+  QTimer::singleShot(0, [key] { pressOn(openWindow<MessageDialog>(), key); });
   return desktop.messageBox(box);
 }
 
@@ -49,7 +35,7 @@ screen::ListDialog customers() {
 /// Shows the list to a user.
 std::optional<std::size_t> chosen(QtDesktop& desktop, const screen::ListDialog& dialog,
                                   const std::function<void(ChoiceDialog&)>& act) {
-  QTimer::singleShot(0, [&] { act(openDialog<ChoiceDialog>()); });
+  QTimer::singleShot(0, [&] { act(openWindow<ChoiceDialog>()); });
   return desktop.chooseFromList(dialog);
 }
 
@@ -74,7 +60,7 @@ TEST(Dialogs, MessageBoxSpeaksSpanishAndAnswersByKey) {
     EXPECT_EQ(answered(desktop, each.box, each.key), each.answer) << each.box.text << each.key;
 
   QTimer::singleShot(0, [] {
-    auto& dialog = openDialog<MessageDialog>();
+    auto& dialog = openWindow<MessageDialog>();
     EXPECT_EQ(dialog.button(screen::Answer::Yes)->text(), "&Sí");
     EXPECT_EQ(dialog.button(screen::Answer::No)->text(), "&No");
     EXPECT_EQ(dialog.button(screen::Answer::Ok), nullptr);
@@ -95,8 +81,8 @@ TEST(Dialogs, ListGoesToTheNameThatIsTyped) {
     EXPECT_EQ(chosen(desktop, customers(),
                      [&](ChoiceDialog& dialog) {
                        for (const QChar letter : QString::fromUtf8(each.typed))
-                         sendPress(dialog, screen::keyTyping(letter.unicode()));
-                       press(dialog, "Enter");
+                         scripts::sendPress(dialog, screen::keyTyping(letter.unicode()));
+                       pressOn(dialog, "Enter");
                      }),
               each.row)
         << each.typed;
@@ -106,18 +92,18 @@ TEST(Dialogs, ListIsMovedThroughAndLeftWithNothing) {
   QtDesktop desktop;
   EXPECT_EQ(chosen(desktop, customers(),
                    [](ChoiceDialog& dialog) {
-                     press(dialog, "Abajo");
-                     press(dialog, "Abajo");
-                     press(dialog, "Arriba");
-                     press(dialog, "Enter");
+                     pressOn(dialog, "Abajo");
+                     pressOn(dialog, "Abajo");
+                     pressOn(dialog, "Arriba");
+                     pressOn(dialog, "Enter");
                    }),
             1U);
   screen::ListDialog empty = customers();
   empty.rows.clear();
   EXPECT_EQ(chosen(desktop, empty,
                    [](ChoiceDialog& dialog) {
-                     press(dialog, "Enter");  // nothing to choose
-                     press(dialog, "Escape");
+                     pressOn(dialog, "Enter");  // nothing to choose
+                     pressOn(dialog, "Escape");
                    }),
             std::nullopt);
 }
@@ -135,7 +121,7 @@ TEST(Dialogs, PointerIsTheUsualOneWhileADialogWaits) {
   ASSERT_NE(QApplication::overrideCursor(), nullptr);
   QTimer::singleShot(0, [] {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    press(openDialog<MessageDialog>(), "Enter");
+    pressOn(openWindow<MessageDialog>(), "Enter");
   });
   desktop.messageBox({"x", 0, "y"});
   EXPECT_NE(QApplication::overrideCursor(), nullptr);

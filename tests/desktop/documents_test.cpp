@@ -7,13 +7,11 @@
 #include <QTest>
 #include <QTimer>
 #include <fstream>
-#include <gmock/gmock.h>
 
-#include "desktop/input_events.h"
 #include "desktop/look.h"
 #include "desktop/print_preview.h"
 #include "desktop/save_dialog.h"
-#include "tests/desktop/stages.h"
+#include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
 
@@ -26,25 +24,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-template <class Window>
-Window& openWindow() {
-  for (QWidget* each : QApplication::topLevelWidgets())
-    if (auto* window = dynamic_cast<Window*>(each); window != nullptr && window->isVisible())
-      return *window;
-  throw std::logic_error("no such window is open");
-}
-
-void press(QWidget& window, const char* key) {
-  sendPress(window, *screen::keyNamed(key));
-}
-
 /// A user in front of documents, who answers each message box with Yes or Aceptar.
-class Documents : public testing::Test {
+class Documents : public OnWindows {
  protected:
   Documents() {
-    desktop_.onMessage = [this](const screen::MessageBox& box) {
-      messages_.push_back(box.text);
-      return QtDesktop::Reply<screen::Answer>{box.yesNo() ? reply_ : screen::Answer::Ok, byEnter_};
+    stage.onMessage = [this](const screen::MessageBox& box) {
+      messages.push_back(box.text);
+      return scripts::Reply(box.yesNo() ? reply_ : screen::Answer::Ok, byEnter_);
     };
   }
 
@@ -53,22 +39,22 @@ class Documents : public testing::Test {
     QTimer::singleShot(0, [act] {
       auto& window = openWindow<PrintPreview>();
       act(window);
-      press(window, "Escape");
+      pressOn(window, "Escape");
       EXPECT_FALSE(window.isVisible());
     });
-    desktop_.preview({"Liquidación 13", [](QPrinter&) {},
-                      [this](QPrinter& printer) {
-                        QPainter painter(&printer);
-                        for (int page = 1; page <= 30; ++page) {
-                          if (page > 1) printer.newPage();
-                          painter.drawText(QPointF(2000, 2000), QString::number(page));
-                        }
-                      },
-                      [this](const fs::path& file) {
-                        if (file.filename() == "lleno.pdf")
-                          throw std::runtime_error("No queda sitio.");
-                        std::ofstream(file) << "pdf";
-                      }});
+    desktop.preview({"Liquidación 13", [](QPrinter&) {},
+                     [this](QPrinter& printer) {
+                       QPainter painter(&printer);
+                       for (int page = 1; page <= 30; ++page) {
+                         if (page > 1) printer.newPage();
+                         painter.drawText(QPointF(2000, 2000), QString::number(page));
+                       }
+                     },
+                     [this](const fs::path& file) {
+                       if (file.filename() == "lleno.pdf")
+                         throw std::runtime_error("No queda sitio.");
+                       std::ofstream(file) << "pdf";
+                     }});
   }
 
   /// What the user does with the save dialog that the next action opens: accepts a name, or leaves.
@@ -79,7 +65,7 @@ class Documents : public testing::Test {
       if (name.isEmpty()) return dialog.reject();
       dialog.setDirectory(folder_.path());
       dialog.selectFile(name);
-      press(dialog, "Enter");
+      pressOn(dialog, "Enter");
       if (dialog.isVisible()) dialog.reject();
     });
   }
@@ -92,10 +78,8 @@ class Documents : public testing::Test {
   fs::path path(const char* name) const { return fs::path(fromQt(folder_.path())) / name; }
 
   QTemporaryDir folder_;
-  RealStage desktop_;
   bool byEnter_ = false;
   screen::Answer reply_ = screen::Answer::Yes;
-  std::vector<std::string> messages_;
   std::string suggested_;
 };
 
@@ -113,7 +97,7 @@ TEST_F(Documents, PreviewTurnsPages) {
     page.setValue(30);
     EXPECT_EQ(pages.currentPage(), 30);
   });
-  EXPECT_THAT(messages_, ElementsAre());
+  EXPECT_THAT(messages, ElementsAre());
 }
 
 TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
@@ -124,7 +108,7 @@ TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
     EXPECT_EQ(fs::path(suggested_).filename(), "Liquidación 13.pdf");
     whenAskedToSave("lleno");
     save.click();
-    EXPECT_THAT(messages_, ElementsAre("No queda sitio."));
+    EXPECT_THAT(messages, ElementsAre("No queda sitio."));
     EXPECT_TRUE(window.isVisible());
     whenAskedToSave("bien");
     save.click();
@@ -136,21 +120,20 @@ TEST_F(Documents, PreviewSavesAndStaysWhenThatFails) {
 }
 
 TEST_F(Documents, EnterOnAMessageAboveThePreviewIsNoKeyOfTheForm) {
-  SampleForm form;
   byEnter_ = true;
-  playReal(desktop_, form, [&](Robot& robot) {
+  play([&] {
     preview([&](PrintPreview& window) { button(window, "Im&primir…").click(); });
-    robot.settle();
+    user.settle();
   });
-  EXPECT_THAT(messages_, ElementsAre(HasSubstr("No hay ninguna impresora")));
-  EXPECT_THAT(form.events, Not(Contains(HasSubstr("KeyUp 13"))));
+  EXPECT_THAT(messages, ElementsAre(HasSubstr("No hay ninguna impresora")));
+  EXPECT_THAT(form.log, Not(Contains(HasSubstr("KeyUp 13"))));
 }
 
 TEST_F(Documents, PagesThatCannotBePaintedAreTheCallersMatter) {
-  EXPECT_THROW(desktop_.preview({"",
-                                 [](QPrinter&) {},
-                                 [](QPrinter&) { throw std::runtime_error("no hay páginas"); },
-                                 {}}),
+  EXPECT_THROW(desktop.preview({"",
+                                [](QPrinter&) {},
+                                [](QPrinter&) { throw std::runtime_error("no hay páginas"); },
+                                {}}),
                std::runtime_error);
 }
 
@@ -159,11 +142,11 @@ TEST_F(Documents, AFileIsReplacedOnlyWithConsent) {
   const SaveRequest request{"Guardar", "Libros|*.xlsx", "xlsx", "hoja.xlsx"};
   reply_ = screen::Answer::No;
   whenAskedToSave("hoja");
-  EXPECT_EQ(desktop_.askWhereToSave(request), std::nullopt);
+  EXPECT_EQ(desktop.askWhereToSave(request), std::nullopt);
   reply_ = screen::Answer::Yes;
   whenAskedToSave("hoja");
-  EXPECT_EQ(desktop_.askWhereToSave(request), path("hoja.xlsx"));
-  EXPECT_THAT(messages_, ElementsAre(HasSubstr("Ya existe hoja.xlsx"), HasSubstr("Ya existe")));
+  EXPECT_EQ(desktop.askWhereToSave(request), path("hoja.xlsx"));
+  EXPECT_THAT(messages, ElementsAre(HasSubstr("Ya existe hoja.xlsx"), HasSubstr("Ya existe")));
 }
 
 }  // namespace korvantes::desktop

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <gtest/gtest.h>
 
-#include "runtime/screen/headless_desktop.h"
+#include "scripts/key_names.h"
 
 namespace korvantes::desktop {
 
@@ -12,7 +12,7 @@ TEST(Keys, ComeBackFromTheToolkitAsTheyWent) {
   for (const char* name : {"Enter", "Tab", "Mayús+Tab", "Escape", "Retroceso", "Supr", "Espacio",
                            "F1", "F12", "Alt+F4", "Alt+B", "Ctrl+A", "Izquierda", "Mayús+Fin",
                            "Inicio", "AvPág", "RePág", "Decimal"})
-    keys.push_back(screen::keyNamed(name).value());
+    keys.push_back(scripts::keyNamed(name).value());
   for (const char32_t character : U"aZ0ñÑáÇ,.;/-€ºü\U0001F600")
     if (character != 0) keys.push_back(screen::keyTyping(character));
   for (const screen::Key& key : keys) {

@@ -2,6 +2,16 @@
 #include <gmock/gmock.h>
 
 #include "desktop/application.h"
+#include "scripts/windows/window_desktop.h"
+#include "tests/screen/on_stage.h"
+
+namespace korvantes::screen {
+
+StageKind stageKind() {
+  return {"windows", [] { return std::unique_ptr<scripts::Stage>(new scripts::WindowDesktop); }};
+}
+
+}  // namespace korvantes::screen
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);

@@ -5,122 +5,104 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMimeData>
-#include <gmock/gmock.h>
 
-#include "desktop/input_events.h"
-#include "tests/desktop/stages.h"
+#include "scripts/windows/input_events.h"
+#include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
 
 namespace {
 
-using Typing = OnWindows;
-
-QLineEdit& fieldOf(const screen::TextBox& box) {
-  return static_cast<QLineEdit&>(widgetOf(box));
-}
-
-void drop(QLineEdit& field, const QString& text) {
-  QMimeData data;
-  data.setText(text);
-  QDragEnterEvent enter(QPoint(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(&field, &enter);
-  QDropEvent event(QPointF(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(&field, &event);
-}
-
-void compose(QLineEdit& field, const QString& text) {
-  QInputMethodEvent event;
-  event.setCommitString(text);
-  QCoreApplication::sendEvent(&field, &event);
-}
+class TypingOnWindows : public OnWindows {
+ protected:
+  QLineEdit& field() const { return static_cast<QLineEdit&>(widgetOf(box)); }
+  void drop(const QString& text) const {
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter(QPoint(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field(), &enter);
+    QDropEvent event(QPointF(2, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field(), &event);
+  }
+  screen::TextBox& box = form.Text1(1);
+};
 
 }  // namespace
 
-TEST(KeyFilter, AndLengthHoldForEveryWayIntoAField) {
-  const std::vector<std::function<void(Robot&, QLineEdit&)>> ways{
-      [](Robot& robot, QLineEdit&) { robot.type("1x2-3456789"); },
-      [](Robot& robot, QLineEdit&) {
-        QGuiApplication::clipboard()->setText("1x2-3456789");
-        robot.stroke(*screen::keyNamed("Ctrl+V"));
-      },
-      [](Robot& robot, QLineEdit&) { robot.paste("1x2-3456789"); },
-      [](Robot&, QLineEdit& field) { drop(field, "1x2-3456789"); },
-      [](Robot&, QLineEdit& field) { compose(field, "1x2-3456789"); },
-  };
-  for (const auto& way : ways) {
-    RealStage desktop;
-    SampleForm form;
-    playReal(desktop, form, [&](Robot& robot) {
-      QLineEdit& field = fieldOf(form.Text1(0));
-      way(robot, field);
-      EXPECT_EQ(form.Text1(0).Text(), "123456");
-      EXPECT_EQ(field.text(), "123456");
+TEST_F(TypingOnWindows, KeyFilterAndLengthHoldForEveryWayIntoAField) {
+  const std::string typed = "1x2-3456789";
+  const std::function<void()> ways[] = {[&] { user.type(typed); },
+                                        [&] {
+                                          QGuiApplication::clipboard()->setText(typed.c_str());
+                                          press("Ctrl+V");
+                                        },
+                                        [&] { user.paste(typed); }, [&] { drop(typed.c_str()); }};
+  box.MaxLength = 6;
+  box.KeyPress = form.Text1(2).KeyPress;
+  for (const auto& way : ways)
+    play([&] {
+      user.moveFocus(box);
+      user.clearText();
+      way();
+      EXPECT_EQ(box.Text(), "123456");
+      EXPECT_EQ(field().text(), "123456");
     });
-  }
 }
 
-TEST_F(Typing, ReadOnlyFieldsTakeNothingAndCanBeCopied) {
-  form.Text1(1).Text = "1.234,56";
-  form.Text1(1).Locked = true;
-  play([&](Robot& robot) {
-    robot.moveFocus(form.Text1(1));
-    robot.type("9");
-    drop(fieldOf(form.Text1(1)), "9");
-    robot.stroke(*screen::keyNamed("Ctrl+A"));
-    robot.stroke(*screen::keyNamed("Ctrl+C"));
-    robot.stroke(*screen::keyNamed("Ctrl+X"));
-    EXPECT_EQ(form.Text1(1).Text(), "1.234,56");
+TEST_F(TypingOnWindows, ReadOnlyFieldsTakeNothingAndCanBeCopied) {
+  box.Text = "1.234,56";
+  box.Locked = true;
+  play([&] {
+    user.moveFocus(box);
+    user.type("9");
+    drop("9");
+    for (const char* key : {"Ctrl+A", "Ctrl+C", "Ctrl+X"}) press(key);
+    EXPECT_EQ(box.Text(), "1.234,56");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "1.234,56");
   });
 }
 
-TEST_F(Typing, CutTakesTheSelectionOutThroughTheModel) {
-  form.Text1(1).Text = "abcdef";
-  play([&](Robot& robot) {
-    robot.moveFocus(form.Text1(1));
-    robot.stroke(*screen::keyNamed("Mayús+Left"));
-    robot.stroke(*screen::keyNamed("Mayús+Left"));
-    EXPECT_EQ(fieldOf(form.Text1(1)).selectedText(), "ef");
-    robot.stroke(*screen::keyNamed("Ctrl+X"));
-    EXPECT_EQ(form.Text1(1).Text(), "abcd");
+TEST_F(TypingOnWindows, CutTakesTheSelectionOutThroughTheModel) {
+  box.Text = "abcdef";
+  play([&] {
+    user.moveFocus(box);
+    press("Mayús+Left");
+    press("Mayús+Left");
+    EXPECT_EQ(field().selectedText(), "ef");
+    press("Ctrl+X");
+    EXPECT_EQ(box.Text(), "abcd");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "ef");
-    robot.type("z");
-    EXPECT_EQ(fieldOf(form.Text1(1)).text(), "abcdz");
-    EXPECT_EQ(fieldOf(form.Text1(1)).cursorPosition(), 5);
+    user.type("z");
+    EXPECT_EQ(field().text(), "abcdz");
+    EXPECT_EQ(field().cursorPosition(), 5);
   });
 }
 
-TEST_F(Typing, MousePlacesTheModelsCaretInCharacters) {
-  form.Text1(1).Text = "\U0001F600ñab";  // the first character takes two of Qt's units
-  play([&](Robot& robot) {
-    robot.moveFocus(form.Text1(1));
-    QLineEdit& field = fieldOf(form.Text1(1));
-    EXPECT_EQ(form.Text1(1).SelStart(), 4);
-    EXPECT_EQ(field.cursorPosition(), 5);
-    field.setCursorPosition(3);
-    const QPoint behindSecond = field.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
-    field.setCursorPosition(5);
-    sendClick(field, behindSecond);
-    EXPECT_EQ(form.Text1(1).SelStart(), 2);
-    robot.type("X");
-    EXPECT_EQ(form.Text1(1).Text(), "\U0001F600ñXab");
+TEST_F(TypingOnWindows, MousePlacesTheModelsCaretInCharacters) {
+  box.Text = "\U0001F600ñab";  // the first character takes two of Qt's units
+  play([&] {
+    user.moveFocus(box);
+    EXPECT_EQ(box.SelStart(), 4);
+    EXPECT_EQ(field().cursorPosition(), 5);
+    field().setCursorPosition(3);
+    const QPoint afterSecond = field().inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    field().setCursorPosition(5);
+    scripts::sendClick(field(), afterSecond);
+    EXPECT_EQ(box.SelStart(), 2);
+    user.type("X");
+    EXPECT_EQ(box.Text(), "\U0001F600ñXab");
   });
 }
 
-TEST_F(Typing, WhatIsDroppedLandsWhereItIsDropped) {
-  form.Text1(1).Text = "abc";
-  play([&](Robot&) {
-    drop(fieldOf(form.Text1(1)), "X");  // at the left end
-    EXPECT_EQ(form.ActiveControl(), &form.Text1(1));
-    EXPECT_EQ(form.Text1(1).Text(), "Xabc");
-  });
-}
-
-TEST_F(Typing, ProgramsTextIsShownWholeWhateverTheMaximum) {
-  play([&](Robot&) {
-    form.Text1(0).Text = "123456789012";
-    EXPECT_EQ(fieldOf(form.Text1(0)).text(), "123456789012");
+TEST_F(TypingOnWindows, TextLandsWhereItIsDroppedAndTheProgramsIsShownWhole) {
+  play([&] {
+    box.MaxLength = 2;
+    box.Text = "abc";
+    EXPECT_EQ(field().text(), "abc");
+    box.MaxLength = 0;
+    drop("X");  // at the left end
+    EXPECT_EQ(form.ActiveControl(), &box);
+    EXPECT_EQ(box.Text(), "Xabc");
   });
 }
 

@@ -1,19 +1,16 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <stdexcept>
 
-#include "runtime/ado/recordset.h"
-#include "tests/screen/sample_form.h"
+#include "runtime/screen/conversions.h"
+#include "scripts/headless_desktop.h"
+#include "tests/screen/on_stage.h"
 
 namespace korvantes::screen {
 namespace {
 
-using ComboBoxes = OnStage;
-using Controls = OnStage;
-using DataGrids = OnStage;
-using Faces = OnStage;
+using testing::Contains;
 
-TEST_F(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
+TEST(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
+  SampleForm form;
   ControlArray<TextBox> fields(form, "txtFields");
   fields.add(0);
   fields.add(7);
@@ -22,59 +19,34 @@ TEST_F(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
   EXPECT_THROW(fields.add(7), std::logic_error);
   EXPECT_EQ(form.findControl("TXTFIELDS(7)"), &fields(7));
   EXPECT_EQ(form.findControl("txtFields"), nullptr);
-  EXPECT_EQ(form.findControl("cmdgrabar"), &form.button);
+  EXPECT_EQ(form.findControl("SAVE"), &form.save);
 }
 
-TEST_F(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
-  OptionButton yes(form, "Option1", 0), no(form, "Option1", 1);
-  int clicks = 0;
-  yes.Click = no.Click = [&] { ++clicks; };
-  form.first.Text = "x";
-  form.first.Text = "x";
+TEST(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
+  SampleForm form;
+  form.Text1(0).Text = "x";
+  form.Text1(0).Text = "x";
   form.check.Value = 1;
-  yes.Value = true;
-  no.Value = true;
-  EXPECT_FALSE(yes.Value());
-  EXPECT_EQ(clicks, 2);
-  EXPECT_EQ(form.log, (Log{"Text1(0) Change x", "Check1 Click"}));
-}
-
-TEST_F(ComboBoxes, SelectEntriesAndRefuseWhatIsNone) {
-  form.combo.AddItem("01 - Uno");
-  form.combo.AddItem("02 - Dos");
-  form.combo.ListIndex = 1;
-  EXPECT_EQ(form.combo.Text(), "02 - Dos");
-  EXPECT_THROW(form.combo.ListIndex = 9, std::out_of_range);
-  EXPECT_THROW(form.combo.Text = "03", std::invalid_argument);
-  EXPECT_EQ(form.combo.ListIndex(), 1);
-  EXPECT_EQ(form.combo.Text(), "02 - Dos");
-  form.combo.Text = "01 - Uno";
-  EXPECT_EQ(form.combo.ListIndex(), 0);
-  EXPECT_EQ(form.taken(), (Log{"cboPais Click", "cboPais Click"}));
-  form.combo.Clear();
-  EXPECT_EQ(form.combo.ListIndex(), -1);
-  EXPECT_EQ(form.combo.Text(), "");
-  EXPECT_EQ(form.combo.ListCount(), 0);
+  form.first.Value = true;
+  form.second.Value = true;
+  EXPECT_FALSE(form.first.Value());
+  EXPECT_EQ(form.taken(), (Log{"Text1(0) Change x", "check Click", "first Click", "second Click"}));
+  // Entries of a combo box; those that do not exist are refused.
+  ComboBox& combo = form.fixedList;
+  combo.ListIndex = 1;
+  EXPECT_EQ(combo.Text(), "España");
+  EXPECT_THROW(combo.ListIndex = 9, std::out_of_range);
+  EXPECT_THROW(combo.Text = "Francia", std::invalid_argument);
+  EXPECT_EQ(combo.ListIndex(), 1);
+  EXPECT_EQ(combo.Text(), "España");
+  combo.Text = "Alemania";
+  EXPECT_EQ(combo.ListIndex(), 0);
+  EXPECT_EQ(form.taken(), (Log{"fixedList Click", "fixedList Click"}));
+  combo.Clear();
+  EXPECT_EQ(combo.ListIndex(), -1);
+  EXPECT_EQ(combo.Text(), "");
+  EXPECT_EQ(combo.ListCount(), 0);
   EXPECT_EQ(form.taken(), Log{});
-}
-
-TEST_F(ComboBoxes, TakeTypingWhereTheyAreEditable) {
-  form.combo.AddItem("01 - Uno");
-  form.combo.Change = [&] { form.log.push_back("Change " + form.combo.Text()); };
-  stage.play(form, [&] {
-    EXPECT_FALSE(stage.user().typeEntry(form.combo, "9"));
-    EXPECT_FALSE(stage.user().selectEntry(form.combo, 1));
-    form.combo.Editable = true;
-    EXPECT_TRUE(stage.user().selectEntry(form.combo, 0));
-    form.taken();
-    stage.press("Retroceso");
-    EXPECT_EQ(form.combo.ListIndex(), -1);
-    stage.user().typeEntry(form.combo, "1");
-    stage.type("2");
-    EXPECT_EQ(form.combo.Text(), "12");
-    EXPECT_THAT(form.log, testing::Contains("Change 12"));
-    EXPECT_THAT(form.log, testing::Not(testing::Contains("cboPais Click")));
-  });
 }
 
 /// A face that counts what it hears.
@@ -89,25 +61,28 @@ struct Face : FormObserver {
   Log heard;
 };
 
-TEST_F(Faces, HearOfRealChangesAlone) {
+/// On the stage whose windows leave the place of the observer free.
+struct Faces : testing::Test, protected Played {
+  Faces() : Played(std::make_unique<scripts::HeadlessDesktop>()) { form.observe(&face); }
   Face face;
-  form.observe(&face);
+};
+
+TEST_F(Faces, HearOfRealChangesAlone) {
   form.Caption = "Muestra";
   form.Caption = "Otra";
-  form.button.Enabled = true;
-  form.button.Enabled = false;
-  form.combo.AddItem("x");
+  form.save.Enabled = true;
+  form.save.Enabled = false;
+  form.fixedList.AddItem("x");
   EXPECT_EQ(face.heard,
-            (Log{"form.Caption", "cmdGrabar.Enabled", "cboPais.ListCount", "cboPais rows"}));
-  stage.play(form, [&] {
+            (Log{"form.Caption", "save.Enabled", "fixedList.ListCount", "fixedList rows"}));
+  play([&] {
     face.heard.clear();
-    stage.user().moveFocus(form.list);
+    user.moveFocus(form.list);
   });
   EXPECT_EQ(face.heard, (Log{"active", "unloaded"}));
 }
 
-TEST_F(DataGrids, ShareTheCurrentRowWithTheirRecordset) {
-  DataGrid grid(form, "dbgLiqui");
+TEST_F(Faces, GridSharesItsCurrentRowWithItsRecordset) {
   ado::Recordset rows;
   rows.Fields().Append("Id", ado::FieldType::Integer);
   rows.Fields().Append("Base", ado::FieldType::Double);
@@ -119,34 +94,64 @@ TEST_F(DataGrids, ShareTheCurrentRowWithTheirRecordset) {
     rows.Update();
   }
   rows.MoveFirst();
-  std::vector<int> pressed;
-  grid.ButtonClick = [&](int column) { pressed.push_back(column); };
-  stage.play(form, [&] {
-    grid.DataSource(rows);
-    grid.Columns(1).NumberFormat = "#,##0.00";
-    EXPECT_EQ(grid.cellText(0, 1, stage.regional()), "1.000,50");
-    EXPECT_EQ(grid.cellText(1, 1, stage.regional()), "");
-    EXPECT_TRUE(stage.user().selectRow(grid, 2));
-    EXPECT_FALSE(stage.user().selectRow(grid, 3));
-    stage.press("Arriba");
-    EXPECT_EQ(rows.position(), 1U);
-    Face face;
-    form.observe(&face);
-    form.button.Click = [&] { rows.MoveFirst(); };
-    stage.user().click(form.button);
-    EXPECT_EQ(grid.currentRow(), 0U);
-    EXPECT_THAT(face.heard, testing::Contains("dbgLiqui rows"));
-    form.observe(nullptr);
-    EXPECT_FALSE(stage.user().pressCellButton(grid, 1));
-    grid.Columns(1).Button = true;
-    EXPECT_TRUE(stage.user().pressCellButton(grid, 1));
+  play([&] {
+    form.grid.DataSource(rows);
+    form.grid.Columns(1).NumberFormat = "#,##0.00";
+    EXPECT_EQ(form.grid.cellText(0, 1, currentRegional()), "1.000,50");
+    EXPECT_EQ(form.grid.cellText(1, 1, currentRegional()), "");
+    user.selectRow(form.grid, 2);
+    user.selectRow(form.grid, 3);  // there is none
+    EXPECT_EQ(rows.position(), 2U);
+    face.heard.clear();
+    form.save.Click = [&] { rows.MoveFirst(); };
+    user.click(form.save);
+    EXPECT_EQ(form.grid.currentRow(), 0U);
+    EXPECT_THAT(face.heard, Contains("grid rows"));
+    user.pressCellButton(form.grid, 1);  // has no button yet
+    form.grid.Columns(1).Button = true;
+    user.pressCellButton(form.grid, 1);
     rows.MoveLast();
     rows.MoveNext();
-    EXPECT_FALSE(stage.user().pressCellButton(grid, 1));
-    EXPECT_EQ(pressed, (std::vector<int>{1}));
-    grid.DataSource(ado::Recordset());
-    EXPECT_EQ(grid.ColumnCount(), 0U);
+    user.pressCellButton(form.grid, 1);
+    EXPECT_EQ(std::count(form.log.begin(), form.log.end(), "grid ButtonClick 1"), 1);
+    form.grid.DataSource(ado::Recordset());
+    EXPECT_EQ(form.grid.ColumnCount(), 0U);
   });
+}
+
+TEST(HeadlessDesktop, TakesDefaultsWhereNobodyAnswers) {
+  scripts::HeadlessDesktop desktop;
+  Desktop::makeCurrent(&desktop);
+  EXPECT_EQ(MsgBox("¿Seguro?", style::YesNo), Answer::Yes);
+  EXPECT_EQ(MsgBox("¿Seguro?", style::YesNo + style::DefaultSecond), Answer::No);
+  EXPECT_EQ(MsgBox("Hecho", style::Information), Answer::Ok);
+  EXPECT_FALSE(desktop.chooseFromList({}) || desktop.chooseFile({}));
+  desktop.onList = [](const ListDialog&) { return std::optional<std::size_t>(2); };
+  EXPECT_THROW(desktop.chooseFromList({}), std::out_of_range);
+  Desktop::makeCurrent(nullptr);
+  EXPECT_THROW(MsgBox("x"), std::logic_error);
+}
+
+TEST(KeyNames, AreThoseThatScriptsUse) {
+  using namespace key;
+  const struct {
+    const char* name;
+    Key key;
+  } cases[] = {{"Enter", {Enter}},         {"Mayús+Tab", {Tab, ShiftBit}},
+               {"ESC", {Escape}},          {"F12", {123}},
+               {"Espacio", {32, 0, U' '}}, {"AvPág", {34}},
+               {"Alt+b", {'B', AltBit}},   {"Control+Mayús+Fin", {35, ControlBit | ShiftBit}},
+               {"a", {'A', 0, U'a'}},      {"A", {'A', ShiftBit, U'A'}},
+               {"ñ", {0xD1, 0, U'ñ'}},     {",", {Comma, 0, U','}},
+               {"+", {Packet, 0, U'+'}},   {"Control++", {Packet, ControlBit}}};
+  const auto text = [](const Key& key) {
+    return std::to_string(key.code) + "/" + std::to_string(key.shift) + "/" +
+           std::to_string(std::uint32_t{key.character});
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(text(scripts::keyNamed(c.name).value_or(Key{})), text(c.key)) << c.name;
+  for (const char* name : {"", "F0", "F13", "F1x", "Entrar", "Foo+A", "Alt+", "ab"})
+    EXPECT_FALSE(scripts::keyNamed(name)) << name;
 }
 
 }  // namespace

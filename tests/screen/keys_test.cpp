@@ -1,113 +1,94 @@
-#include <gtest/gtest.h>
-
-#include "tests/screen/sample_form.h"
+#include "tests/screen/on_stage.h"
 
 namespace korvantes::screen {
 namespace {
 
 using Keys = OnStage;
+INSTANTIATE_TEST_SUITE_P(On, Keys, testing::Values(stageKind()), testing::PrintToStringParamName());
 
-TEST(KeyNames, AreThoseThatScriptsUse) {
-  using namespace key;
-  const struct {
-    const char* name;
-    int code, shift;
-    char32_t character;
-  } cases[] = {{"Enter", Enter, 0, 0},
-               {"Tab", Tab, 0, 0},
-               {"Mayús+Tab", Tab, ShiftBit, 0},
-               {"ESC", Escape, 0, 0},
-               {"F12", 123, 0, 0},
-               {"Espacio", 32, 0, U' '},
-               {"AvPág", 34, 0, 0},
-               {"Alt+b", 'B', AltBit, 0},
-               {"Control+Mayús+Fin", 35, ControlBit | ShiftBit, 0},
-               {"a", 'A', 0, U'a'},
-               {"A", 'A', ShiftBit, U'A'},
-               {"ñ", 0xD1, 0, U'ñ'},
-               {",", Comma, 0, U','},
-               {"+", Packet, 0, U'+'},
-               {"Control++", Packet, ControlBit, 0}};
-  for (const auto& c : cases) {
-    const auto named = keyNamed(c.name);
-    ASSERT_TRUE(named) << c.name;
-    EXPECT_EQ(named->code, c.code) << c.name;
-    EXPECT_EQ(named->shift, c.shift) << c.name;
-    EXPECT_EQ(named->character, c.character) << c.name;
-  }
-  for (const char* name : {"", "F0", "F13", "F1x", "Entrar", "Foo+A", "Alt+", "ab"})
-    EXPECT_FALSE(keyNamed(name)) << name;
-}
-
-TEST_F(Keys, PressButtonsAndBoxes) {
-  stage.play(form, [&] {
-    stage.user().moveFocus(form.button);
+TEST_P(Keys, PressButtonsAndBoxes) {
+  play([&] {
+    user.moveFocus(form.save);
     form.taken();
-    stage.press("Enter");
-    EXPECT_EQ(form.taken(), (Log{"cmdGrabar Click", "Form_KeyUp 13"}));
-    stage.press("Espacio");
-    EXPECT_EQ(form.taken(), (Log{"Form_KeyUp 32", "cmdGrabar Click"}));
+    press("Enter");
+    EXPECT_EQ(form.taken(), (Log{"save Click", "Form KeyUp 13", "save KeyUp 13"}));
+    press("Espacio");
+    EXPECT_EQ(form.taken(), (Log{"Form KeyUp 32", "save KeyUp 32", "save Click"}));
     // A release alone clicks nothing, nor does one that the form used up.
-    stage.user().keyUp(*keyNamed("Espacio"));
     form.keyUp = [](int& code) { code = 0; };
-    stage.press("Espacio");
-    EXPECT_EQ(form.taken(), (Log{"Form_KeyUp 32", "Form_KeyUp 32"}));
+    UserInput(form).keyUp(keyTyping(U' '));
+    press("Espacio");
+    EXPECT_EQ(form.taken(), (Log{"Form KeyUp 32", "Form KeyUp 32"}));
     form.keyUp = nullptr;
-    stage.user().moveFocus(form.check);
-    stage.press("Espacio");
-    EXPECT_EQ(form.check.Value(), 1);
-    stage.press("Enter");
+    user.moveFocus(form.check);
+    press("Espacio");
+    press("Enter");
     EXPECT_EQ(form.check.Value(), 1);
   });
 }
 
-TEST_F(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
-  Label label(form, "Label1");
-  label.Caption = "Se&gundo";
-  label.TabIndex = 1;
-  form.second.TabIndex = 1;
-  form.button.Caption = "&Búsqueda && más";
-  form.check.Caption = "Ú&nico";
-  stage.play(form, [&] {
-    stage.press("Alt+G");
-    EXPECT_EQ(form.ActiveControl(), &form.check);  // behind the label
-    stage.press("Alt+N");
+TEST_P(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
+  form.heading.Caption = "Ú&nico";
+  form.heading.TabIndex = 1;
+  form.save.Caption = "&Guardar && más";
+  play([&] {
+    press("Alt+N");
+    EXPECT_EQ(form.ActiveControl(), &form.Text1(1));  // the field after the label
+    press("Alt+B");
     EXPECT_EQ(form.check.Value(), 1);
     form.taken();
-    stage.press("Alt+b");
-    EXPECT_EQ(form.log.at(2), "cmdGrabar Click");
-    form.button.Enabled = false;
-    EXPECT_FALSE(stage.user().accessKey(U'b'));
-    stage.press("Alt+F4");
+    press("Alt+g");
+    EXPECT_EQ(form.taken().at(2), "save Click");
+    user.moveFocus(form.check);
+    form.save.Enabled = false;
+    form.taken();
+    press("Alt+G");
+    EXPECT_EQ(form.taken().front(), "Form KeyUp 71/4");
+    press("Alt+F4");
     EXPECT_FALSE(form.loaded());
   });
-  EXPECT_EQ(captionWithoutMark(form.button.Caption()), "Búsqueda & más");
+  EXPECT_EQ(captionWithoutMark(form.save.Caption()), "Guardar & más");
 }
 
-TEST_F(Keys, MoveThroughEntriesAndGroups) {
-  Frame frame(form, "Frame1");
-  ControlArray<OptionButton> options(form, "Option1");
-  for (const int index : {0, 1, 5}) options.add(index).container(index == 5 ? nullptr : &frame);
-  for (const char* entry : {"Alemania", "España", "Estonia"}) form.combo.AddItem(entry);
-  stage.play(form, [&] {
-    options(5).Value = true;
-    stage.user().click(options(0));
-    stage.press("Abajo");
-    EXPECT_EQ(form.ActiveControl(), &options(1));
-    EXPECT_TRUE(options(1).Value());
-    EXPECT_FALSE(options(0).Value());
-    stage.press("Derecha");
-    EXPECT_TRUE(options(0).Value());
-    EXPECT_TRUE(options(5).Value());  // a group of its own
-    stage.user().moveFocus(form.combo);
+TEST_P(Keys, MoveThroughEntriesGroupsAndRows) {
+  OptionButton other(form, "other");  // in a group of its own
+  other.Value = true;
+  play([&] {
+    user.click(form.first);
+    press("Abajo");
+    EXPECT_EQ(form.ActiveControl(), &form.second);
+    EXPECT_TRUE(form.second.Value() && !form.first.Value());
+    press("Derecha");
+    EXPECT_TRUE(form.first.Value() && other.Value());
+    user.moveFocus(form.fixedList);
     form.taken();
-    stage.press("Fin");
-    stage.type("e");  // from the top again
-    EXPECT_EQ(form.combo.Text(), "España");
-    stage.press("Arriba");
-    stage.press("Arriba");
-    EXPECT_EQ(form.combo.ListIndex(), 0);
-    EXPECT_EQ(std::count(form.log.begin(), form.log.end(), "cboPais Click"), 3);
+    press("Fin");
+    user.type("e");  // from the top again
+    EXPECT_EQ(form.fixedList.Text(), "España");
+    press("Arriba");
+    press("Arriba");
+    EXPECT_EQ(form.fixedList.ListIndex(), 0);
+    EXPECT_EQ(std::count(form.log.begin(), form.log.end(), "fixedList Click"), 3);
+    user.moveFocus(form.list);
+    press("Espacio");
+    press("AvPág");
+    press("Espacio");
+    EXPECT_EQ(form.list.SelectedRow(), 10);
+    EXPECT_EQ(std::count(form.log.begin(), form.log.end(), "list ItemCheck F11 on"), 1);
+    user.selectRow(form.grid, 12);
+    press("Arriba");
+    EXPECT_EQ(form.grid.DataSource().position(), 11U);
+  });
+}
+
+TEST_P(Keys, ReachTheFormWhileNoControlCanHaveTheFocus) {
+  play([&] {
+    for (Control* control : form.controls()) control->Visible = false;
+    press("Tab");
+    form.taken();
+    press("F1");
+    EXPECT_EQ(form.ActiveControl(), nullptr);
+    EXPECT_EQ(form.taken(), (Log{"Form KeyUp 112"}));
   });
 }
 

@@ -1,107 +1,57 @@
 #pragma once
 
 #include <functional>
-#include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "runtime/screen/headless_desktop.h"
+#include "runtime/screen/form.h"
 
 namespace korvantes::screen {
 
 using Log = std::vector<std::string>;
 
-/// A form with one control of most kinds, which writes down every event.
+/// A form with every kind of control, which writes down what happens to it.
 class SampleForm : public Form {
  public:
-  SampleForm() : Form("frmMuestra") {
-    Caption = "Muestra";
-    KeyPreview = true;
-    int tab = 0;
-    for (Control* control :
-         std::initializer_list<Control*>{&first, &second, &check, &button, &combo, &list}) {
-      control->TabIndex = tab++;
-      watch(*control);
-    }
-    for (TextBox* box : {&first, &second}) {
-      box->Change = [this, box] { log.push_back(box->identity() + " Change " + box->Text()); };
-      box->KeyPress = [this, box](int& code) {
-        log.push_back(box->identity() + " KeyPress " + std::to_string(code));
-      };
-    }
-  }
+  SampleForm();
 
   void Form_Load() override {
     if (load) load();
   }
-  void Form_Unload() override { log.push_back("Form_Unload"); }
-  void Form_KeyUp(int& code, int) override {
-    log.push_back("Form_KeyUp " + std::to_string(code));
-    if (keyUp) keyUp(code);
-  }
+  void Form_Unload() override { log.push_back("Form Unload"); }
+  void Form_KeyUp(int& code, int shift) override;
 
-  /// Adds a step behind what an event writes down.
-  void also(std::function<void()>& event, std::function<void()> step) {
-    event = [before = event, step = std::move(step)] {
-      before();
-      step();
-    };
-  }
+  /// Adds a step to what an event does.
+  static void also(std::function<void()>& event, std::function<void()> step);
   /// What was written down since the last call.
   Log taken() { return std::exchange(log, {}); }
+  /// What the user can see of it: focus, texts, marks.
+  std::string state() const;
 
-  TextBox first{*this, "Text1", 0}, second{*this, "Text1", 1};
-  CheckBox check{*this, "Check1"};
-  PictureButton button{*this, "cmdGrabar"};
-  ComboBox combo{*this, "cboPais"};
-  ListView list{*this, "ListView1"};
+  Frame box{*this, "box"}, inner{*this, "inner"};
+  Label heading{*this, "heading"};
+  ControlArray<TextBox> Text1{*this, "Text1"};  ///< 0 and 1 are free, 2 takes six digits
+  CheckBox check{*this, "check"};
+  OptionButton first{*this, "first"}, second{*this, "second"};
+  ComboBox fixedList{*this, "fixedList"}, openList{*this, "openList"};
+  PictureButton save{*this, "save"}, leave{*this, "leave"};
+  ListView list{*this, "list"};  ///< 40 rows
+  DataGrid grid{*this, "grid"};  ///< 60 rows, field 0 hidden, a button in column 2
+  Image image{*this, "image"};
+  Shape shape{*this, "shape"};
+  CommonDialog files{*this, "files"};
+
   std::function<void()> load;
   std::function<void(int&)> keyUp;
   Log log;
 
  private:
-  void watch(Control& control) {
-    const auto write = [this, &control](const char* event) {
-      return [this, &control, event] { log.push_back(control.identity() + " " + event); };
-    };
-    control.GotFocus = write("GotFocus");
-    control.LostFocus = write("LostFocus");
-    control.Click = write("Click");
-  }
+  void layOut();
+  void logEvents(Control& control);
 };
 
-/// A headless desktop that is current as long as it lives, and shows forms to a user in the test.
-class Stage : public HeadlessDesktop {
- public:
-  Stage() {
-    regional(Regional::named("es-ES"));
-    makeCurrent(this);
-    onMessage = [this](const MessageBox& box) {
-      messages.push_back(box.title + " | " + box.text);
-      return Reply<Answer>{box.defaultAnswer()};
-    };
-  }
-  /// Shows the form, lets the user act on it and closes it. What happened before is forgotten.
-  void play(SampleForm& form, const std::function<void()>& user) {
-    whileShown = [&](Form& shown) {
-      if (&shown != &form) return shown.Unload();
-      form.log.clear();
-      user();
-      settle();
-      form.Unload();
-    };
-    form.Show();
-  }
-  void press(std::string_view name) { stroke(keyNamed(name).value()); }
-
-  Log messages;
-};
-
-/// A test with a form on a stage.
-class OnStage : public testing::Test {
- protected:
-  Stage stage;
-  SampleForm form;
-};
+/// Rows "Agente 1" … with a date, numbered in field 0.
+ado::Recordset sampleRows(int count);
 
 }  // namespace korvantes::screen

@@ -1,7 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "runtime/ado/utf8.h"
-#include "tests/screen/sample_form.h"
+#include "tests/screen/on_stage.h"
 
 namespace korvantes::screen {
 namespace {
@@ -11,26 +9,28 @@ class Typing : public OnStage {
   /// Plays strokes ("a", "Inicio", "Mayús+Derecha" …, blanks between) on a box that holds a text,
   /// and gives the text with the caret as | and the selection as [].
   std::string after(const std::string& text, const std::string& strokes) {
-    std::string seen;
-    stage.play(form, [&] {
-      form.first.Text = text;
+    std::u32string seen;
+    play([&] {
+      box.Text = text;
       for (std::size_t at = 0; at < strokes.size();) {
         const auto end = std::min(strokes.find(' ', at), strokes.size());
-        stage.press(strokes.substr(at, end - at));
+        press(strokes.substr(at, end - at));
         at = end + 1;
       }
-      std::u32string shown = ado::toCodePoints(form.first.Text());
-      const auto start = static_cast<std::size_t>(form.first.SelStart());
-      const auto length = static_cast<std::size_t>(form.first.SelLength());
-      if (length > 0) shown.insert(start + length, U"]");
-      shown.insert(start, length > 0 ? U"[" : U"|");
-      seen = ado::toUtf8(shown);
+      seen = ado::toCodePoints(box.Text());
+      const auto start = static_cast<std::size_t>(box.SelStart());
+      const auto length = static_cast<std::size_t>(box.SelLength());
+      if (length > 0) seen.insert(start + length, U"]");
+      seen.insert(start, length > 0 ? U"[" : U"|");
     });
-    return seen;
+    return ado::toUtf8(seen);
   }
+  TextBox& box = form.Text1(0);
 };
+INSTANTIATE_TEST_SUITE_P(On, Typing, testing::Values(stageKind()),
+                         testing::PrintToStringParamName());
 
-TEST_F(Typing, EditsAtTheCaretAsATextFieldDoes) {
+TEST_P(Typing, EditsAtTheCaretAsATextFieldDoes) {
   const struct {
     const char *text, *strokes, *result;
   } cases[] = {{"ab", "c", "abc|"},
@@ -53,15 +53,15 @@ TEST_F(Typing, EditsAtTheCaretAsATextFieldDoes) {
   for (const auto& c : cases) EXPECT_EQ(after(c.text, c.strokes), c.result) << c.strokes;
 }
 
-TEST_F(Typing, IsLimitedInCharactersButTheProgramIsNot) {
-  form.first.MaxLength = 3;
+TEST_P(Typing, IsLimitedInCharactersButTheProgramIsNot) {
+  box.MaxLength = 3;
   EXPECT_EQ(after("ñá", "ü x"), "ñáü|");
   EXPECT_EQ(after("ñáü", "Mayús+Izquierda x"), "ñáx|");
   EXPECT_EQ(after("demasiado", "x"), "demasiado|");
 }
 
-TEST_F(Typing, PassesTheKeyFilterWhichMayRefuseOrReplaceTheCharacter) {
-  form.first.KeyPress = [](int& code) {
+TEST_P(Typing, PassesTheKeyFilterWhichMayRefuseOrReplaceTheCharacter) {
+  box.KeyPress = [](int& code) {
     if (code == 'x' || code == key::Back) code = 0;
     if (code == '.') code = ',';
     if (code == '#') code = -5;
@@ -70,62 +70,80 @@ TEST_F(Typing, PassesTheKeyFilterWhichMayRefuseOrReplaceTheCharacter) {
   EXPECT_EQ(after("1", "Supr Inicio Supr"), "|");
 }
 
-TEST_F(Typing, LeavesReadOnlyBoxesAlone) {
-  form.first.Locked = true;
+TEST_P(Typing, LeavesReadOnlyBoxesAlone) {
+  box.Locked = true;
   EXPECT_EQ(after("ab", "x Retroceso Inicio Supr"), "|ab");
-  stage.play(form, [&] {
-    EXPECT_FALSE(stage.user().clearText());
-    EXPECT_FALSE(stage.user().paste("x"));
+  play([&] {
+    EXPECT_FALSE(user.clearText());
+    EXPECT_FALSE(user.paste("x"));
   });
-  EXPECT_EQ(form.first.Text(), "ab");
+  EXPECT_EQ(box.Text(), "ab");
 }
 
-TEST_F(Typing, ChangeSeesTheCaretBehindTheInsertion) {
+TEST_P(Typing, ChangeSeesTheCaretAfterTheInsertion) {
   int caret = -1;
-  form.first.Change = [&] { caret = form.first.SelStart(); };
+  box.Change = [&] { caret = box.SelStart(); };
   EXPECT_EQ(after("ab", "Inicio x"), "x|ab");
   EXPECT_EQ(caret, 1);
   // A handler that rewrites the text puts the caret at its end.
-  form.first.Change = [&] {
-    if (form.first.Text() == "yab") form.first.Text = "otro";
+  box.Change = [&] {
+    if (box.Text() == "yab") box.Text = "otro";
   };
   EXPECT_EQ(after("ab", "Inicio y"), "otro|");
 }
 
-TEST_F(Typing, PasteGoesThroughTheFilterWithOneChange) {
-  form.first.KeyPress = [&](int& code) {
-    if (code == '\'') code = 0;
-    const bool separated = form.first.Text().find(',') != std::string::npos;
-    if (code == ',' && separated) code = 0;
+TEST_P(Typing, PasteGoesThroughTheFilterWithOneChange) {
+  box.KeyPress = [&](int& code) {
+    const bool separated = box.Text().find(',') != std::string::npos;
+    if (code == '\'' || (code == ',' && separated)) code = 0;
   };
-  stage.play(form, [&] {
-    form.first.Text = "7";
+  play([&] {
+    box.Text = "7";
     form.taken();
-    EXPECT_TRUE(stage.user().paste("1,2,'\r\n3\x01"));
+    EXPECT_TRUE(user.paste("1,2,'\r\n3\x01"));
     EXPECT_EQ(form.taken(), (Log{"Text1(0) Change 71,2 3"}));
-    EXPECT_TRUE(stage.user().paste("''"));
+    EXPECT_TRUE(user.paste("''"));
     EXPECT_EQ(form.taken(), Log{});
-    form.first.MaxLength = 8;
-    stage.user().paste("456");
-    EXPECT_EQ(form.first.Text(), "71,2 345");
-    EXPECT_TRUE(stage.user().clearText());
-    EXPECT_EQ(form.first.Text(), "");
-    stage.user().moveFocus(form.button);
-    EXPECT_FALSE(stage.user().paste("x"));
-    EXPECT_FALSE(stage.user().clearText());
+    box.MaxLength = 8;
+    user.paste("456");
+    EXPECT_EQ(box.Text(), "71,2 345");
+    EXPECT_TRUE(user.clearText());
+    EXPECT_EQ(box.Text(), "");
+    user.moveFocus(form.save);
+    EXPECT_FALSE(user.paste("x") || user.clearText());
   });
 }
 
-TEST_F(Typing, FocusPutsTheCaretAtTheEnd) {
-  stage.play(form, [&] {
-    form.second.Text = "añb";
-    form.second.SelStart = 0;
-    form.second.SelLength = 9;
-    EXPECT_EQ(form.second.SelLength(), 3);
-    stage.press("Tab");
-    stage.type("x");
+TEST_P(Typing, FocusPutsTheCaretAtTheEnd) {
+  TextBox& next = form.Text1(1);
+  play([&] {
+    next.Text = "añb";
+    next.SelStart = 0;
+    next.SelLength = 9;
+    EXPECT_EQ(next.SelLength(), 3);
+    press("Tab");
+    user.type("x");
   });
-  EXPECT_EQ(form.second.Text(), "añbx");
+  EXPECT_EQ(next.Text(), "añbx");
+}
+
+TEST_P(Typing, EntersTextInComboBoxesThatAreEditable) {
+  play([&] {
+    user.typeEntry(form.fixedList, "9");
+    EXPECT_EQ(form.fixedList.Text(), "");
+    user.selectEntry(form.openList, 3);  // there is none
+    EXPECT_EQ(form.openList.ListIndex(), -1);
+    user.selectEntry(form.openList, 0);
+    form.taken();
+    press("Retroceso");
+    EXPECT_EQ(form.openList.Text(), "Alemani");
+    EXPECT_EQ(form.openList.ListIndex(), -1);
+    user.typeEntry(form.openList, "1");
+    user.type("2");
+    EXPECT_EQ(form.openList.Text(), "12");
+    EXPECT_THAT(form.log, testing::Contains("openList Change 12"));
+    EXPECT_THAT(form.log, testing::Not(testing::Contains("openList Click")));
+  });
 }
 
 }  // namespace
