@@ -1,132 +1,86 @@
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
+#include <gmock/gmock.h>
 
 #include "desktop/choice_dialog.h"
 #include "desktop/file_dialog.h"
 #include "desktop/message_dialog.h"
-#include "scripts/windows/input_events.h"
 #include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
 
-using testing::ElementsAre;
-
 namespace {
 
-/// Shows the box to a user who strikes a key.
-screen::Answer answered(QtDesktop& desktop, const screen::MessageBox& box, const char* key) {
-  QTimer::singleShot(0, [key] { pressOn(openWindow<MessageDialog>(), key); });
-  return desktop.messageBox(box);
-}
+/// Dialogs in front of a real user, who strikes keys on them.
+class Dialogs : public OnWindows {
+ protected:
+  Dialogs() { stage.cues() = {}; }
 
-screen::ListDialog customers() {
-  screen::ListDialog dialog;
-  dialog.title = "Buscar";
-  dialog.codeTitle = "Codigo";
-  dialog.nameTitle = "Nombre";
-  dialog.codeWidth = 1300;
-  dialog.nameWidth = 6000;
-  for (const char* name : {"Ángel Ruiz", "Nadal", "Núñez", "Ñíguez", "Óscar", "Zoe"})
-    dialog.rows.push_back({std::to_string(dialog.rows.size() + 1), name});
-  return dialog;
-}
-
-/// Shows the list to a user.
-std::optional<std::size_t> chosen(QtDesktop& desktop, const screen::ListDialog& dialog,
-                                  const std::function<void(ChoiceDialog&)>& act) {
-  QTimer::singleShot(0, [&] { act(openWindow<ChoiceDialog>()); });
-  return desktop.chooseFromList(dialog);
-}
+  template <class Dialog>
+  static void whenOpen(const std::function<void(Dialog&)>& act) {
+    QTimer::singleShot(0, [act] { act(openWindow<Dialog>()); });
+  }
+  screen::Answer answered(const screen::MessageBox& box, const char* key) {
+    whenOpen<MessageDialog>([key](MessageDialog& dialog) { pressOn(dialog, key); });
+    return desktop.messageBox(box);
+  }
+  /// The row from 0, or -1.
+  int chosen(const screen::ListDialog& list, std::initializer_list<const char*> keys) {
+    whenOpen<ChoiceDialog>([&](ChoiceDialog& dialog) {
+      for (const char* key : keys) pressOn(dialog, key);
+    });
+    const auto row = desktop.chooseFromList(list);
+    return row ? static_cast<int>(*row) : -1;
+  }
+};
 
 }  // namespace
 
-TEST(Dialogs, MessageBoxSpeaksSpanishAndAnswersByKey) {
-  QtDesktop desktop;
+TEST_F(Dialogs, MessageBoxSpeaksSpanishAndAnswersByKey) {
   const screen::MessageBox note{"Hecho", screen::style::Information, "Título"};
   const screen::MessageBox ask{"¿Borrar?", screen::style::Question | screen::style::YesNo, "T"};
   screen::MessageBox safe = ask;
   safe.style |= screen::style::DefaultSecond;
-  struct Case {
-    const screen::MessageBox& box;
-    const char* key;
-    screen::Answer answer;
-  };
-  for (const Case& each :
-       {Case{note, "Enter", screen::Answer::Ok}, Case{note, "Escape", screen::Answer::Ok},
-        Case{ask, "Enter", screen::Answer::Yes}, Case{safe, "Enter", screen::Answer::No},
-        Case{ask, "Escape", screen::Answer::No}, Case{ask, "Alt+F4", screen::Answer::No},
-        Case{safe, "s", screen::Answer::Yes}, Case{ask, "n", screen::Answer::No}})
-    EXPECT_EQ(answered(desktop, each.box, each.key), each.answer) << each.box.text << each.key;
-
-  QTimer::singleShot(0, [] {
-    auto& dialog = openWindow<MessageDialog>();
-    EXPECT_EQ(dialog.button(screen::Answer::Yes)->text(), "&Sí");
-    EXPECT_EQ(dialog.button(screen::Answer::No)->text(), "&No");
-    EXPECT_EQ(dialog.button(screen::Answer::Ok), nullptr);
-    EXPECT_EQ(dialog.focusWidget(), dialog.button(screen::Answer::No));
+  using screen::Answer;
+  for (const char* key : {"Enter", "Escape"}) EXPECT_EQ(answered(note, key), Answer::Ok) << key;
+  for (const char* key : {"Enter", "s"}) EXPECT_EQ(answered(ask, key), Answer::Yes) << key;
+  for (const char* key : {"Escape", "Alt+F4", "n"}) EXPECT_EQ(answered(ask, key), Answer::No);
+  EXPECT_EQ(answered(safe, "Enter"), Answer::No);
+  EXPECT_EQ(answered(safe, "s"), Answer::Yes);
+  // The pointer is the usual one while a dialog waits in the middle of long work.
+  desktop.mousePointer(13);
+  EXPECT_NE(QApplication::overrideCursor(), nullptr);
+  whenOpen<MessageDialog>([](MessageDialog& dialog) {
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(dialog.button(Answer::Yes)->text() + dialog.button(Answer::No)->text(), "&Sí&No");
+    EXPECT_EQ(dialog.button(Answer::Ok), nullptr);
+    EXPECT_EQ(dialog.focusWidget(), dialog.button(Answer::No));
     dialog.close();
   });
-  EXPECT_EQ(desktop.messageBox(safe), screen::Answer::No);
-}
-
-TEST(Dialogs, ListGoesToTheNameThatIsTyped) {
-  QtDesktop desktop;
-  struct Case {
-    const char* typed;
-    std::size_t row;
-  };
-  for (const Case& each : {Case{"", 0}, Case{"a", 0}, Case{"NUN", 2}, Case{"nun", 2}, Case{"ñ", 3},
-                           Case{"os", 4}, Case{"zzz", 5}, Case{"n", 1}})
-    EXPECT_EQ(chosen(desktop, customers(),
-                     [&](ChoiceDialog& dialog) {
-                       for (const QChar letter : QString::fromUtf8(each.typed))
-                         scripts::sendPress(dialog, screen::keyTyping(letter.unicode()));
-                       pressOn(dialog, "Enter");
-                     }),
-              each.row)
-        << each.typed;
-}
-
-TEST(Dialogs, ListIsMovedThroughAndLeftWithNothing) {
-  QtDesktop desktop;
-  EXPECT_EQ(chosen(desktop, customers(),
-                   [](ChoiceDialog& dialog) {
-                     pressOn(dialog, "Abajo");
-                     pressOn(dialog, "Abajo");
-                     pressOn(dialog, "Arriba");
-                     pressOn(dialog, "Enter");
-                   }),
-            1U);
-  screen::ListDialog empty = customers();
-  empty.rows.clear();
-  EXPECT_EQ(chosen(desktop, empty,
-                   [](ChoiceDialog& dialog) {
-                     pressOn(dialog, "Enter");  // nothing to choose
-                     pressOn(dialog, "Escape");
-                   }),
-            std::nullopt);
-}
-
-TEST(Dialogs, FiltersOfTheFileDialogAreTheToolkits) {
-  EXPECT_THAT(filtersOf("Imágenes (*.bmp)|*.bmp;*.jpg|Todos|*.*"),
-              ElementsAre("Imágenes (*.bmp *.jpg)", "Todos (*)"));
-  EXPECT_TRUE(filtersOf("").isEmpty());
-  EXPECT_TRUE(filtersOf("sola").isEmpty());
-}
-
-TEST(Dialogs, PointerIsTheUsualOneWhileADialogWaits) {
-  QtDesktop desktop;
-  desktop.mousePointer(13);
-  ASSERT_NE(QApplication::overrideCursor(), nullptr);
-  QTimer::singleShot(0, [] {
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    pressOn(openWindow<MessageDialog>(), "Enter");
-  });
-  desktop.messageBox({"x", 0, "y"});
+  EXPECT_EQ(desktop.messageBox(safe), Answer::No);
   EXPECT_NE(QApplication::overrideCursor(), nullptr);
   desktop.mousePointer(0);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Dialogs, ListGoesToTheNameThatIsTyped) {
+  screen::ListDialog list{"Buscar", "Codigo", "Nombre", 1300, 6000, {}};
+  EXPECT_EQ(chosen(list, {"Enter", "Escape"}), -1) << "nothing to choose";
+  for (const char* name : {"Ángel Ruiz", "Nadal", "Núñez", "Ñíguez", "Óscar", "Zoe"})
+    list.rows.push_back({std::to_string(list.rows.size() + 1), name});
+  EXPECT_EQ(chosen(list, {"Enter"}), 0);
+  EXPECT_EQ(chosen(list, {"N", "U", "N", "Enter"}), 2);
+  EXPECT_EQ(chosen(list, {"n", "u", "n", "Enter"}), 2);
+  EXPECT_EQ(chosen(list, {"ñ", "Enter"}), 3);
+  EXPECT_EQ(chosen(list, {"o", "s", "Enter"}), 4);
+  EXPECT_EQ(chosen(list, {"n", "x", "Enter"}), 1) << "where none begins so, the row stays";
+  EXPECT_EQ(chosen(list, {"Abajo", "Abajo", "Arriba", "Enter"}), 1);
+}
+
+TEST(FileDialogs, FiltersAreTheToolkits) {
+  EXPECT_EQ(filtersOf("Imágenes (*.bmp)|*.bmp;*.jpg|Todos|*.*"),
+            (QStringList{"Imágenes (*.bmp *.jpg)", "Todos (*)"}));
+  EXPECT_TRUE(filtersOf("").isEmpty() && filtersOf("sola").isEmpty());
 }
 
 }  // namespace korvantes::desktop

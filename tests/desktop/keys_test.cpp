@@ -7,7 +7,7 @@
 
 namespace korvantes::desktop {
 
-TEST(Keys, ComeBackFromTheToolkitAsTheyWent) {
+TEST(KeysOfTheToolkit, ComeBackAsTheyWent) {
   std::vector<screen::Key> keys;
   for (const char* name : {"Enter", "Tab", "Mayús+Tab", "Escape", "Retroceso", "Supr", "Espacio",
                            "F1", "F12", "Alt+F4", "Alt+B", "Ctrl+A", "Izquierda", "Mayús+Fin",
@@ -19,33 +19,30 @@ TEST(Keys, ComeBackFromTheToolkitAsTheyWent) {
     const QtKey sent = qtKeyOf(key);
     const screen::Key back =
         keyOf(QKeyEvent(QEvent::KeyPress, sent.key, sent.modifiers, sent.text));
-    EXPECT_EQ(back.code, key.code);
-    EXPECT_EQ(back.shift, key.shift) << key.code;
-    EXPECT_EQ(back.character, key.character) << key.code;
+    EXPECT_EQ(std::tie(back.code, back.shift, back.character),
+              std::tie(key.code, key.shift, key.character));
   }
 }
 
-TEST(Keys, OfOtherKeyboardsTypeTheirCharacter) {
-  struct Case {
-    QKeyEvent event;
+TEST(KeysOfTheToolkit, OfOtherKeyboardsTypeTheirCharacter) {
+  const auto altGr = Qt::AltModifier | Qt::ControlModifier;
+  const struct {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    const char* text;
     int code;
     char32_t character;
-  };
-  const auto alt = Qt::AltModifier, control = Qt::ControlModifier;
-  const Case cases[] = {
-      {{QEvent::KeyPress, Qt::Key_At, alt | control, "@"}, screen::key::Packet, U'@'},  // AltGr
-      {{QEvent::KeyPress, Qt::Key_V, control, "\x16"}, 'V', 0},
-      {{QEvent::KeyPress, Qt::Key_Enter, Qt::KeypadModifier, "\r"}, screen::key::Enter, 0},
-      {{QEvent::KeyPress, Qt::Key_Comma, Qt::KeypadModifier, ","},
-       screen::key::KeypadDecimal,
-       U','},
-      {{QEvent::KeyPress, Qt::Key_5, Qt::KeypadModifier, "5"}, '5', U'5'},
-      {{QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f"}, screen::key::Delete, 0},
-      {{QEvent::KeyPress, Qt::Key_VolumeUp, Qt::NoModifier}, 0, 0},
-  };
-  for (const Case& each : cases) {
-    EXPECT_EQ(keyOf(each.event).code, each.code);
-    EXPECT_EQ(keyOf(each.event).character, each.character) << each.code;
+  } cases[] = {{Qt::Key_At, altGr, "@", screen::key::Packet, U'@'},
+               {Qt::Key_V, Qt::ControlModifier, "\x16", 'V', 0},
+               {Qt::Key_Enter, Qt::KeypadModifier, "\r", screen::key::Enter, 0},
+               {Qt::Key_Comma, Qt::KeypadModifier, ",", screen::key::KeypadDecimal, U','},
+               {Qt::Key_5, Qt::KeypadModifier, "5", '5', U'5'},
+               {Qt::Key_Delete, Qt::NoModifier, "\x7f", screen::key::Delete, 0},
+               {Qt::Key_VolumeUp, Qt::NoModifier, "", 0, 0}};
+  for (const auto& each : cases) {
+    const auto key = keyOf(QKeyEvent(QEvent::KeyPress, each.key, each.modifiers, each.text));
+    EXPECT_EQ(key.code, each.code);
+    EXPECT_EQ(key.character, each.character) << each.code;
   }
 }
 

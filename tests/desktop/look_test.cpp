@@ -9,33 +9,28 @@
 
 namespace korvantes::desktop {
 
-using DesignedForm = OnWindows;
+using Look = OnWindows;
 
-TEST(Look, NeighboursThatTouchInTwipsTouchInPixels) {
-  SampleForm form;
+TEST_F(Look, PlacesAndColorsAreTheDesigned) {
   for (int left = 0; left < 40; ++left) {
     form.first.place(left, 0, 107, 200);
     form.second.place(left + 107, 0, 93, 200);
-    EXPECT_EQ(rectOf(form.first).right() + 1, rectOf(form.second).left());
+    EXPECT_EQ(rectOf(form.first).right() + 1, rectOf(form.second).left()) << "neighbours touch";
   }
   form.first.place(13755, 8490, 15, 285);
   EXPECT_EQ(rectOf(form.first), QRect(917, 566, 1, 19));
-}
-
-TEST(Look, ColorsAreTheRuntimes) {
   EXPECT_EQ(colorOf(65535), QColor(255, 255, 0));
   EXPECT_EQ(colorOf(screen::rgb(237, 222, 154)), QColor(237, 222, 154));
   EXPECT_EQ(colorOf(screen::kWindowBackground), QColor(Qt::white));
   EXPECT_EQ(colorOf(screen::kWindowText), QColor(Qt::black));
 }
 
-TEST(Look, CaptionsAreMadeToFitAndNeverWiderThanTheirPlace) {
+TEST_F(Look, CaptionsAreMadeToFitAndNeverWiderThanTheirPlace) {
   const QFont font = fontOf({8.25, true});
   EXPECT_EQ(font.pixelSize(), 11);
   const QString caption = "Situacion de &cobro de las facturas";
   const int natural = QFontMetrics(font).size(Qt::TextShowMnemonic, caption).width();
-  const FittedText whole = fit(caption, font, natural);
-  EXPECT_EQ(whole.font, font);
+  EXPECT_EQ(fit(caption, font, natural).font, font);
   for (int width = 20; width < natural; width += 7) {
     const FittedText shown = fit(caption, font, width);
     EXPECT_LE(QFontMetrics(shown.font).size(Qt::TextShowMnemonic, shown.text).width(), width);
@@ -45,38 +40,35 @@ TEST(Look, CaptionsAreMadeToFitAndNeverWiderThanTheirPlace) {
   EXPECT_FALSE(fitTwoLines(caption, font, natural / 2 + 20).cut);
 }
 
-TEST(Look, EveryIconDrawsSomething) {
+TEST_F(Look, EveryIconDrawsSomething) {
   for (const char* name : {"buscar", "imprimir", "hoja", "marcar", "cancelar", "borrar", "guardar",
                            "salir", "nuevo", "imagen", "agentes", "liquidacion", "informe", "base",
                            "acerca", "critico", "pregunta", "aviso", "informacion"}) {
     QImage canvas(32, 32, QImage::Format_ARGB32_Premultiplied);
     canvas.fill(Qt::transparent);
     const QImage blank = canvas;
-    {
-      QPainter painter(&canvas);
-      paintIcon(painter, name, QRectF(0, 0, 32, 32));
-    }
+    QPainter painter(&canvas);
+    paintIcon(painter, name, QRectF(0, 0, 32, 32));
+    painter.end();
     EXPECT_NE(canvas, blank) << name;
   }
   EXPECT_FALSE(hasIcon("desconocido"));
 }
 
-TEST_F(DesignedForm, IsShownAsDesigned) {
-  form.Text1(0).BackColor = 65535;
+TEST_F(Look, WindowsShowTheFormAsDesigned) {
+  form.text(0).BackColor = 65535;
   play([&] {
-    QWidget& window = *widgetOf(form.save).window();
+    QWidget& window = openWindow<FormWindow>();
     EXPECT_EQ(window.size(), QSize(600, 480));
     EXPECT_EQ(window.windowTitle(), "Muestra");
     EXPECT_EQ(widgetOf(form.check).mapTo(&window, QPoint()), QPoint(308, 40));
-    EXPECT_EQ(widgetOf(form.Text1(0)).size(), QSize(80, 19));
-    EXPECT_EQ(widgetOf(form.Text1(0)).grab().toImage().pixelColor(70, 9), QColor(255, 255, 0));
+    EXPECT_EQ(widgetOf(form.text(0)).size(), QSize(80, 19));
+    EXPECT_EQ(widgetOf(form.text(0)).grab().toImage().pixelColor(70, 9), QColor(255, 255, 0));
     form.save.Width = 3000;
     form.save.Visible = false;
     EXPECT_EQ(widgetOf(form.save).width(), 200);
     EXPECT_FALSE(widgetOf(form.save).isVisible());
-    form.taken();
-    user.click(form.save);
-    EXPECT_EQ(form.taken(), Log{});
+    EXPECT_EQ(clicking(form.save), "");
   });
 }
 

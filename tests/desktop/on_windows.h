@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QTimer>
 #include <QWidget>
 #include <stdexcept>
 
@@ -11,7 +12,6 @@
 
 namespace korvantes::desktop {
 
-using screen::Log;
 using screen::SampleForm;
 
 /// A window or dialog of that type that is on the screen.
@@ -23,20 +23,21 @@ Window& openWindow() {
   throw std::logic_error("no such window is open");
 }
 
-inline void pressOn(QWidget& window, const char* key) {
-  scripts::sendPress(window, scripts::keyNamed(key).value());
-}
-
 /// A test with a form on windows.
 class OnWindows : public testing::Test, protected screen::Played {
  protected:
   OnWindows() : Played(std::make_unique<scripts::WindowDesktop>()) {}
 
-  QtDesktop& desktop = dynamic_cast<QtDesktop&>(stage.desktop());
-  /// The widget of a control of the form that is on the screen.
-  static QWidget& widgetOf(const screen::Control& control) {
-    return openWindow<FormWindow>().faceOf(control)->widget();
+  static void pressOn(QWidget& window, const char* key) {
+    scripts::sendPress(window, scripts::keyNamed(key).value());
   }
+  /// The widget of a control of the form that is on the screen.
+  template <class Widget = QWidget>
+  static Widget& widgetOf(const screen::Control& control) {
+    return dynamic_cast<Widget&>(openWindow<FormWindow>().faceOf(control)->widget());
+  }
+
+  QtDesktop& desktop = dynamic_cast<QtDesktop&>(stage.desktop());
 };
 
 }  // namespace korvantes::desktop

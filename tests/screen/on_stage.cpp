@@ -26,4 +26,16 @@ void Played::play(SampleForm& shown, const std::function<void()>& act) {
   shown.Show();
 }
 
+std::string Played::pressing(std::string_view key) {
+  form.taken();
+  press(key);
+  return form.taken();
+}
+
+std::string Played::clicking(Control& control) {
+  form.taken();
+  user.click(control);
+  return form.taken();
+}
+
 }  // namespace korvantes::screen

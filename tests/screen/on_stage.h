@@ -28,6 +28,9 @@ class Played {
   void play(SampleForm& shown, const std::function<void()>& act);
   void play(const std::function<void()>& act) { play(form, act); }
   void press(std::string_view key) { user.stroke(scripts::keyNamed(key).value()); }
+  /// What pressing a key, or clicking, brings about.
+  std::string pressing(std::string_view key);
+  std::string clicking(Control& control);
 
  private:
   std::unique_ptr<scripts::Stage> owned_;
@@ -36,7 +39,7 @@ class Played {
   scripts::Stage& stage = *owned_;
   scripts::User& user = stage.user();
   SampleForm form;
-  Log messages;
+  std::vector<std::string> messages;
 };
 
 struct StageKind {
