@@ -27,10 +27,11 @@ function(korvantes_folder name)
   target_link_libraries(${name} PUBLIC korvantes_options ${folder_LINKS})
 endfunction()
 
-# korvantes_test(NAME SOURCES file... LINKS target...): one binary per layer.
+# korvantes_test(NAME [PREFIX text] SOURCES file... LINKS target...): one binary per layer. The
+# prefix tells apart tests that two binaries share.
 function(korvantes_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "PREFIX" "SOURCES;LINKS")
   add_executable(${name} ${test_SOURCES})
   target_link_libraries(${name} PRIVATE korvantes_options ${test_LINKS} GTest::gmock_main)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(${name} TEST_PREFIX "${test_PREFIX}" DISCOVERY_TIMEOUT 60)
 endfunction()

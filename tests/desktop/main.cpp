@@ -5,13 +5,9 @@
 #include "scripts/windows/window_desktop.h"
 #include "tests/screen/on_stage.h"
 
-namespace korvantes::screen {
-
-StageKind stageKind() {
-  return {"windows", [] { return std::unique_ptr<scripts::Stage>(new scripts::WindowDesktop); }};
+std::unique_ptr<korvantes::scripts::Stage> korvantes::screen::makeStage() {
+  return std::make_unique<scripts::WindowDesktop>();
 }
-
-}  // namespace korvantes::screen
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);

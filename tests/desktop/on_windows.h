@@ -24,10 +24,8 @@ Window& openWindow() {
 }
 
 /// A test with a form on windows.
-class OnWindows : public testing::Test, protected screen::Played {
+class OnWindows : public screen::OnStage {
  protected:
-  OnWindows() : Played(std::make_unique<scripts::WindowDesktop>()) {}
-
   static void pressOn(QWidget& window, const char* key) {
     scripts::sendPress(window, scripts::keyNamed(key).value());
   }

@@ -6,10 +6,8 @@ namespace korvantes::screen {
 namespace {
 
 using EventOrder = OnStage;
-INSTANTIATE_TEST_SUITE_P(On, EventOrder, testing::Values(stageKind()),
-                         testing::PrintToStringParamName());
 
-TEST_P(EventOrder, OfShowingIsLoadThenTheFocusThatItAskedForOrTheFirstTabStop) {
+TEST_F(EventOrder, OfShowingIsLoadThenTheFocusThatItAskedForOrTheFirstTabStop) {
   stage.whileShown = [&](Form&) { form.Unload(); };
   form.load = [&] { form.write("form", "Load"); };
   form.Show();
@@ -28,7 +26,7 @@ TEST_P(EventOrder, OfShowingIsLoadThenTheFocusThatItAskedForOrTheFirstTabStop) {
   EXPECT_TRUE(stage.forms().empty());
 }
 
-TEST_P(EventOrder, OfKeysAndClicks) {
+TEST_F(EventOrder, OfKeysAndClicks) {
   int valueInClick = -1;
   form.also(form.check.Click, [&] { valueInClick = form.check.Value(); });
   play([&] {
@@ -44,7 +42,7 @@ TEST_P(EventOrder, OfKeysAndClicks) {
   });
 }
 
-TEST_P(EventOrder, FocusSentElsewhereInLostFocusDropsTheTargetAndItsClick) {
+TEST_F(EventOrder, FocusSentElsewhereInLostFocusDropsTheTargetAndItsClick) {
   form.also(form.text(0).LostFocus, [&] {
     MsgBox("no existe");
     form.text(0).SetFocus();
@@ -59,7 +57,7 @@ TEST_P(EventOrder, FocusSentElsewhereInLostFocusDropsTheTargetAndItsClick) {
   });
 }
 
-TEST_P(EventOrder, SetFocusInAHandlerWaitsForItsEndAndTheLastCallWins) {
+TEST_F(EventOrder, SetFocusInAHandlerWaitsForItsEndAndTheLastCallWins) {
   form.also(form.save.Click, [&] {
     form.text(0).SetFocus();
     form.fixedList.Enabled = false;
@@ -85,7 +83,7 @@ TEST_P(EventOrder, SetFocusInAHandlerWaitsForItsEndAndTheLastCallWins) {
   });
 }
 
-TEST_P(EventOrder, ExceptionOfAHandlerBecomesAMessageAndTheFormStaysUsable) {
+TEST_F(EventOrder, ExceptionOfAHandlerBecomesAMessageAndTheFormStaysUsable) {
   form.also(form.save.Click, [&] {
     form.text(1).SetFocus();
     throw std::runtime_error("no se pudo guardar");
@@ -102,7 +100,7 @@ TEST_P(EventOrder, ExceptionOfAHandlerBecomesAMessageAndTheFormStaysUsable) {
   });
 }
 
-TEST_P(EventOrder, FormUnloadedInAnyOfItsEventsTakesNoFurtherOnes) {
+TEST_F(EventOrder, FormUnloadedInAnyOfItsEventsTakesNoFurtherOnes) {
   const std::pair<std::function<void()>*, const char*> cases[] = {
       {&form.text(0).Change, "t(0) press 49, t(0) = 1, form Unload"},
       {&form.text(0).LostFocus, "t(0) press 49, t(0) = 1, form up 49, -t(0), form Unload"},
@@ -126,7 +124,7 @@ TEST_P(EventOrder, FormUnloadedInAnyOfItsEventsTakesNoFurtherOnes) {
   }
 }
 
-TEST_P(EventOrder, InputDuringAHandlerRunsInBetweenAndItsFocusIsSettledAtTheEnd) {
+TEST_F(EventOrder, InputDuringAHandlerRunsInBetweenAndItsFocusIsSettledAtTheEnd) {
   form.also(form.save.Click, [&] {
     SendKeys("\tz");
     DoEvents();
@@ -152,7 +150,7 @@ TEST_P(EventOrder, InputDuringAHandlerRunsInBetweenAndItsFocusIsSettledAtTheEnd)
   });
 }
 
-TEST_P(EventOrder, KeysBelongToTheWindowThatIsOnTop) {
+TEST_F(EventOrder, KeysBelongToTheWindowThatIsOnTop) {
   SampleForm above;
   std::string closed;
   stage.onClosed = [&](const Form& shown) { closed += shown.Caption() + " "; };

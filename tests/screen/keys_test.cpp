@@ -4,9 +4,8 @@ namespace korvantes::screen {
 namespace {
 
 using Keys = OnStage;
-INSTANTIATE_TEST_SUITE_P(On, Keys, testing::Values(stageKind()), testing::PrintToStringParamName());
 
-TEST_P(Keys, PressButtonsAndBoxes) {
+TEST_F(Keys, PressButtonsAndBoxes) {
   play([&] {
     user.moveFocus(form.save);
     EXPECT_EQ(pressing("Enter"), "save Click, form up 13, save up 13");
@@ -24,7 +23,7 @@ TEST_P(Keys, PressButtonsAndBoxes) {
   });
 }
 
-TEST_P(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
+TEST_F(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
   form.heading.Caption = "Ú&nico";
   form.heading.TabIndex = 1;
   form.save.Caption = "&Guardar && más";
@@ -39,7 +38,7 @@ TEST_P(Keys, WithAltReachTheControlWhoseCaptionCarriesThem) {
   });
 }
 
-TEST_P(Keys, MoveThroughEntriesGroupsAndRows) {
+TEST_F(Keys, MoveThroughEntriesGroupsAndRows) {
   OptionButton other(form, "other");  // in a group of its own
   other.Value = true;
   play([&] {

@@ -24,10 +24,8 @@ class ListViews : public OnStage {
   }
   ListView& list = form.list;
 };
-INSTANTIATE_TEST_SUITE_P(On, ListViews, testing::Values(stageKind()),
-                         testing::PrintToStringParamName());
 
-TEST_P(ListViews, SortByTheTextOfAColumnAndKeepEqualRowsInOrder) {
+TEST_F(ListViews, SortByTheTextOfAColumnAndKeepEqualRowsInOrder) {
   list.Sorted = true;
   EXPECT_EQ(shown(), "a5 á2 b1 B3 n6 ñ4 ");
   list.SortOrder = 1;
@@ -42,7 +40,7 @@ TEST_P(ListViews, SortByTheTextOfAColumnAndKeepEqualRowsInOrder) {
   EXPECT_THROW(list.item(0), std::out_of_range);
 }
 
-TEST_P(ListViews, TakeTicksAndClicksOnHeadings) {
+TEST_F(ListViews, TakeTicksAndClicksOnHeadings) {
   list.Sorted = true;
   play([&] {
     list.Checked(0, true);
@@ -66,7 +64,7 @@ TEST_P(ListViews, TakeTicksAndClicksOnHeadings) {
   });
 }
 
-TEST_P(ListViews, LikeGridsHaveOneCurrentRow) {
+TEST_F(ListViews, LikeGridsHaveOneCurrentRow) {
   ado::Recordset rows = form.grid.DataSource();
   form.grid.Columns(0).NumberFormat = "#,##0.00";
   EXPECT_EQ(form.grid.cellText(1, 0, currentRegional()), "2,00");
@@ -87,7 +85,7 @@ TEST_P(ListViews, LikeGridsHaveOneCurrentRow) {
   });
 }
 
-TEST_P(ListViews, OfAHundredThousandRowsSortAndTickAtOnce) {
+TEST_F(ListViews, OfAHundredThousandRowsSortAndTickAtOnce) {
   play([&] {
     const auto start = std::chrono::steady_clock::now();
     list.Clear();

@@ -2,7 +2,7 @@
 
 namespace korvantes::screen {
 
-Played::Played(std::unique_ptr<scripts::Stage> made) : owned_(std::move(made)) {
+OnStage::OnStage() {
   stage.desktop().regional(Regional::named("es-ES"));
   Desktop::makeCurrent(&stage.desktop());
   stage.onMessage = [this](const MessageBox& box) {
@@ -11,28 +11,24 @@ Played::Played(std::unique_ptr<scripts::Stage> made) : owned_(std::move(made)) {
   };
 }
 
-Played::~Played() {
-  Desktop::makeCurrent(nullptr);
-}
-
-void Played::play(SampleForm& shown, const std::function<void()>& act) {
+void OnStage::play(const std::function<void()>& act) {
   stage.whileShown = [&](Form& top) {
-    if (&top != &shown) return top.Unload();
-    shown.log.clear();
+    if (&top != &form) return top.Unload();
+    form.log.clear();
     act();
     user.settle();
-    shown.Unload();
+    form.Unload();
   };
-  shown.Show();
+  form.Show();
 }
 
-std::string Played::pressing(std::string_view key) {
+std::string OnStage::pressing(std::string_view key) {
   form.taken();
   press(key);
   return form.taken();
 }
 
-std::string Played::clicking(Control& control) {
+std::string OnStage::clicking(Control& control) {
   form.taken();
   user.click(control);
   return form.taken();

@@ -25,10 +25,8 @@ class Typing : public OnStage {
   }
   TextBox& box = form.text(0);
 };
-INSTANTIATE_TEST_SUITE_P(On, Typing, testing::Values(stageKind()),
-                         testing::PrintToStringParamName());
 
-TEST_P(Typing, EditsAtTheCaretAsATextFieldDoes) {
+TEST_F(Typing, EditsAtTheCaretAsATextFieldDoes) {
   const struct {
     const char *text, *strokes, *result;
   } cases[] = {{"ab", "c", "abc|"},
@@ -61,7 +59,7 @@ TEST_P(Typing, EditsAtTheCaretAsATextFieldDoes) {
   EXPECT_EQ(box.Text(), "ab");
 }
 
-TEST_P(Typing, PassesTheKeyFilterAndTellsOfTheChange) {
+TEST_F(Typing, PassesTheKeyFilterAndTellsOfTheChange) {
   int caret = -1;
   play([&] {
     box.KeyPress = [](int& code) {
@@ -81,7 +79,7 @@ TEST_P(Typing, PassesTheKeyFilterAndTellsOfTheChange) {
   });
 }
 
-TEST_P(Typing, PasteGoesThroughTheFilterWithOneChange) {
+TEST_F(Typing, PasteGoesThroughTheFilterWithOneChange) {
   box.KeyPress = [&](int& code) {
     const bool separated = box.Text().find(',') != std::string::npos;
     if (code == '\'' || (code == ',' && separated)) code = 0;
@@ -102,7 +100,7 @@ TEST_P(Typing, PasteGoesThroughTheFilterWithOneChange) {
   });
 }
 
-TEST_P(Typing, EntersTextInComboBoxesThatAreEditable) {
+TEST_F(Typing, EntersTextInComboBoxesThatAreEditable) {
   play([&] {
     user.typeEntry(form.fixedList, "9");
     user.selectEntry(form.openList, 3);  // there is none
