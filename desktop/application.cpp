@@ -30,8 +30,8 @@ bool isSet(const char* name) {
   return value != nullptr && *value != '\0';
 }
 
-/// Kept back are what the offscreen platform says it cannot do, and what is said of damaged
-/// pictures and of files that no program opens, of which we tell the user ourselves.
+/// Drops what the offscreen platform says it cannot do, and messages on damaged pictures and on
+/// files that no program opens, which we report to the user ourselves.
 void say(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (text.startsWith(QLatin1String("This plugin does not support"))) return;
   if (text.startsWith(QLatin1String("Unable to detect a launcher"))) return;
@@ -46,8 +46,8 @@ bool ownFolder(const char* path) {
          (found.st_mode & 0777) == 0700;
 }
 
-/// Qt wants a UTF-8 character set and says so on standard error where LANG names none. Numbers and
-/// dates keep the settings that the user has.
+/// Qt wants a UTF-8 character set and says so on standard error if LANG names none. Numbers and
+/// dates keep the user's settings.
 void useUtf8() {
   std::setlocale(LC_CTYPE, "");
   const bool utf8 = std::string_view(nl_langinfo(CODESET)) == "UTF-8";
@@ -60,7 +60,7 @@ void useUtf8() {
   setenv("LC_CTYPE", "C.UTF-8", 1);
 }
 
-/// Fusion, save that the list of a combo box opens below its field, as in the designed forms.
+/// Fusion, except that the list of a combo box opens below its field, as on the designed forms.
 class FormStyle : public QProxyStyle {
  public:
   FormStyle() : QProxyStyle("Fusion") {}
@@ -73,11 +73,11 @@ class FormStyle : public QProxyStyle {
 
 }  // namespace
 
-/// What is set in the process's environment before Qt looks at it.
+/// Sets the process's environment before Qt reads it.
 struct Application::Environment {
   Environment() {
     if (!displayAvailable() && !isSet("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    // Widgets need no OpenGL, whose libraries complain over a forwarded display.
+    // Widgets need no OpenGL, whose libraries print warnings on a forwarded display.
     setenv("QT_XCB_GL_INTEGRATION", "none", 0);
     const char* runtime = std::getenv("XDG_RUNTIME_DIR");
     if (runtime == nullptr || !ownFolder(runtime)) makeRuntimeFolder();
@@ -106,7 +106,7 @@ struct Application::Toolkit {
         name(std::move(programName)),
         arguments{name.data(), nullptr},
         application(count, arguments.data()) {
-    // printf and strtod elsewhere in the program count on the decimal point.
+    // printf and strtod elsewhere in the program rely on the decimal point.
     std::setlocale(LC_NUMERIC, "C");
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(std::make_unique<FormStyle>().release());  // owned from now on
@@ -134,7 +134,7 @@ Application::Application(std::string programName)
       toolkit_(std::make_unique<Toolkit>(std::move(programName))) {}
 
 Application::~Application() {
-  // Windows and fonts of Qt end while its folder still stands.
+  // Qt must end while its folder still exists.
   toolkit_.reset();
 }
 

@@ -7,11 +7,11 @@ class QWidget;
 
 namespace korvantes::desktop {
 
-/// Guard of the window system: made first in main, before any window, and ended last.
+/// Starts and ends the window system: made first in main, before any window, and destroyed last.
 ///
-/// It chooses the platform (windows where there is a display, otherwise Qt's offscreen one, on
-/// which pictures and PDF still work), gives the process what Qt would complain about when missing
-/// (a private runtime folder, a UTF-8 character set), and sets look, type and Spanish words. One at
+/// It chooses the platform (windows if there is a display, otherwise Qt's offscreen one, on which
+/// pictures and PDF still work), gives the process what Qt would otherwise complain about (a
+/// private runtime folder, a UTF-8 character set), and sets style, fonts and Spanish texts. One at
 /// a time.
 class Application {
  public:
@@ -20,9 +20,9 @@ class Application {
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 
-  /// A display is there (DISPLAY or WAYLAND_DISPLAY is set).
+  /// Whether there is a display (DISPLAY or WAYLAND_DISPLAY is set).
   static bool displayAvailable();
-  /// What is shown can be seen by somebody: false on the offscreen platform.
+  /// Whether anybody can see what is shown: false on the offscreen platform.
   bool visible() const;
 
   /// Shows the main window and returns when it has been closed.

@@ -1,4 +1,4 @@
-// Labels and frames: what stands on a form without taking input.
+// Labels and frames: the parts of a form that take no input.
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
@@ -25,7 +25,7 @@ class LabelWidget : public QLabel {
   }
 
   int room() const { return label_.Bordered() ? kBorderRoom : 0; }
-  /// Lines break at blanks where the label is high enough for them.
+  /// Lines break at blanks if the label is high enough.
   bool wraps(int height) const { return height >= 2 * QFontMetrics(font()).height(); }
   FittedText shown() const {
     const int width = this->width() - 2 * room();
@@ -61,7 +61,7 @@ class LabelFace : public ControlFace {
 
   QWidget& widget() const override { return widget_; }
 
-  /// A label designed lower than a line of today's type gets the height of one.
+  /// A label designed lower than a line of the current font is given the height of one.
   void place() override {
     QRect place = rectOf(label_);
     place.setHeight(std::max(place.height(), QFontMetrics(fontOf(label_.TextFont())).height()));

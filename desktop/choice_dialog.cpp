@@ -140,7 +140,7 @@ void ChoiceDialog::search(const QString& begin) {
   if (found != folded_.end()) table_.showCurrentRow(static_cast<int>(found - folded_.begin()));
 }
 
-/// Keys that move in the list do so from the search field.
+/// Keys that move in the list also work in the search field.
 bool ChoiceDialog::eventFilter(QObject* object, QEvent* event) {
   if (object != &searched_ || event->type() != QEvent::KeyPress)
     return ModalDialog::eventFilter(object, event);

@@ -13,8 +13,8 @@ namespace korvantes::desktop {
 
 class RowTable;
 
-/// A list to choose a row from. What is typed goes to the first row whose name begins with it,
-/// without regard to case and accents; Enter or a double click chooses, Escape leaves.
+/// A list to choose a row from. Typing moves to the first row whose name begins with the typed
+/// text, ignoring case and accents; Enter or a double click chooses, Escape cancels.
 class ChoiceDialog : public ModalDialog {
  public:
   ChoiceDialog(WindowStack& stack, const screen::ListDialog& dialog);

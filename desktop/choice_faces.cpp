@@ -20,7 +20,7 @@ namespace {
 constexpr int kIndicator = 13;
 constexpr int kGap = 5;
 
-/// A toolkit's button of either kind, drawn by us and clicked through the model.
+/// A Qt button of either kind, drawn by us and clicked through the model.
 template <class Button>
 class ChoiceWidget : public Button {
  public:

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kMostEntriesShown = 14;
 
-/// The entries of a combo box, as they were when the face was last told.
+/// The entries of a combo box as of the last notification.
 class EntryModel : public QAbstractListModel {
  public:
   explicit EntryModel(const screen::ComboBox& combo) : combo_(combo) {}
@@ -83,7 +83,7 @@ class ComboWidget : public QComboBox {
     QPainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    option.editable = true;  // both kinds look like fields, as the forms were designed
+    option.editable = true;  // both kinds look like fields, as on the designed forms
     style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, this);
 
     const QRect place =
@@ -102,7 +102,7 @@ class ComboWidget : public QComboBox {
         fontMetrics().elidedText(toQt(combo_.Text()), Qt::ElideRight, place.width() - 4);
     painter.drawText(place.adjusted(2, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter, text);
     if (!hasFocus() || !combo_.Editable()) return;
-    // The model adds and takes away at the end: there stands the caret.
+    // The model inserts and deletes at the end, so the caret is there.
     const int caret = place.left() + 2 + fontMetrics().horizontalAdvance(text);
     painter.fillRect(QRect(caret, place.top() + 3, 1, place.height() - 6),
                      colorOf(combo_.ForeColor()));

@@ -14,13 +14,13 @@ class QWidget;
 
 namespace korvantes::desktop {
 
-/// What the faces of controls ask of the window they stand in.
+/// What the faces of controls need from the window that contains them.
 class FaceWindow {
  public:
   using Action = std::function<void(screen::UserInput& user)>;
 
   virtual ~FaceWindow() = default;
-  /// The user did something: the action tells the model, then the window shows what came of it.
+  /// The user did something: the action tells the model, then the window shows the result.
   virtual void report(const Action& action) = 0;
   virtual const screen::Form& form() const = 0;
 };
@@ -35,19 +35,19 @@ class ControlFace {
 
   screen::Control& control() const { return control_; }
   virtual QWidget& widget() const = 0;
-  /// Puts the widget where the control stands.
+  /// Moves the widget to the position of the control.
   virtual void place();
-  /// Shows what the control says, its rows aside.
+  /// Shows the state of the control, except for its rows.
   void show();
   /// Shows the rows, after rowsChanged.
   virtual void showRows() {}
-  /// The user pressed a key that the toolkit, not the model, knows: clipboard, opening a list.
+  /// The user pressed a key that the toolkit handles, not the model: clipboard, opening a list.
   virtual void command(const QKeyEvent&) {}
 
  protected:
   virtual void showControl() = 0;
   FaceWindow& window() const { return window_; }
-  /// Enabled in itself and its containers. A form that is disabled while it works looks as ever.
+  /// Enabled in itself and its containers. A form disabled while it works looks as usual.
   bool looksEnabled() const;
   /// Background behind the control: that of its frame, or of the form.
   screen::Color background() const;
@@ -57,7 +57,7 @@ class ControlFace {
   FaceWindow& window_;
 };
 
-// One maker for each kind of control; a common dialog has no face.
+// One function for each kind of control; a common dialog has no face.
 std::unique_ptr<ControlFace> makeFace(screen::Label& label, FaceWindow& window, QWidget& parent);
 std::unique_ptr<ControlFace> makeFace(screen::Frame& frame, FaceWindow& window, QWidget& parent);
 std::unique_ptr<ControlFace> makeFace(screen::TextBox& box, FaceWindow& window, QWidget& parent);
@@ -71,7 +71,7 @@ std::unique_ptr<ControlFace> makeFace(screen::ListView& list, FaceWindow& window
 std::unique_ptr<ControlFace> makeFace(screen::DataGrid& grid, FaceWindow& window, QWidget& parent);
 std::unique_ptr<ControlFace> makeFace(screen::Image& image, FaceWindow& window, QWidget& parent);
 std::unique_ptr<ControlFace> makeFace(screen::Shape& shape, FaceWindow& window, QWidget& parent);
-/// Of whatever kind; nullptr for a control without a face.
+/// For a control of any kind; nullptr for one without a face.
 std::unique_ptr<ControlFace> makeFaceOf(screen::Control& control, FaceWindow& window,
                                         QWidget& parent);
 

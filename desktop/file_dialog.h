@@ -15,12 +15,12 @@ class WindowStack;
 /// "Imágenes|*.bmp;*.jpg|Todos|*.*" as Qt writes filters: "Imágenes (*.bmp *.jpg)", "Todos (*)".
 QStringList filtersOf(std::string_view filter);
 
-/// Makes it Qt's own dialog, which needs no session bus, with Spanish labels also where Qt's
+/// Makes it Qt's own dialog, which needs no session bus, with Spanish labels even if Qt's
 /// translations are not installed.
 /// @param accept caption of the button that accepts, with its access key
 void speakSpanish(QFileDialog& dialog, const char* accept);
 
-/// Asks for a file to open; nothing when the dialog was left.
+/// Asks for a file to open; empty if the user cancels.
 std::optional<std::string> askForFile(WindowStack& stack, std::string_view filter);
 
 }  // namespace korvantes::desktop

@@ -19,7 +19,7 @@ namespace korvantes::desktop {
 
 namespace {
 
-/// Graphical controls lie behind those that take input, however they were made.
+/// Graphical controls are below those that take input, whatever the order of their creation.
 bool isGraphical(const screen::Control& control) {
   using Kind = screen::Control::Kind;
   return control.kind() == Kind::Label || control.kind() == Kind::Image ||
@@ -35,7 +35,7 @@ FormWindow::FormWindow(screen::Form& form, WindowStack& stack, QWidget* parent)
       stack_(stack),
       scroll_(makeChild<QScrollArea>(this)),
       canvas_(makeChild<QWidget>()) {
-  // The main window sees to itself, so that it can be closed while a form is open.
+  // The main window ignores input itself, so that it can be closed while a form is open.
   const bool onMainWindow = parent != nullptr && parent == stack.mainWindow();
   setWindowModality(onMainWindow ? Qt::NonModal : Qt::ApplicationModal);
   setFocusPolicy(Qt::NoFocus);
@@ -55,7 +55,7 @@ FormWindow::~FormWindow() {
 }
 
 void FormWindow::makeFaces() {
-  // Frames first, and the outer before the inner: they are the parents of what lies in them.
+  // Frames first, and the outer before the inner: they are the parents of their contents.
   const std::function<QWidget&(const screen::Frame*)> parentIn =
       [&](const screen::Frame* frame) -> QWidget& {
     if (frame == nullptr) return canvas_;
@@ -97,8 +97,8 @@ void FormWindow::showForm() {
   canvas_.setPalette(colors);
   const QSize size(pixels(form_.Width()), pixels(form_.Height()));
   canvas_.setFixedSize(size);
-  // Where the screen is smaller than the form, the window is, too, and scrolls. Nobody sees the
-  // offscreen platform's screen, and pictures of forms are to be whole.
+  // If the screen is smaller than the form, so is the window, which then scrolls. The size of the
+  // offscreen platform's screen does not matter, and pictures of forms must be complete.
   const bool seen = QGuiApplication::platformName() != QLatin1String("offscreen");
   const QSize most = screen()->availableSize() - QSize(16, 48);
   const QSize shown = seen ? size.boundedTo(most) : size;
@@ -131,7 +131,7 @@ void FormWindow::report(const Action& action) {
   try {
     action(user);
   } catch (...) {
-    // Nothing may pass through the toolkit: it travels on from the call that shows the form.
+    // Nothing may pass through Qt: the exception propagates from the call that shows the form.
     stack_.keepFailure(std::current_exception());
     if (loop_ != nullptr) loop_->quit();
   }
@@ -188,7 +188,7 @@ void FormWindow::propertyChanged(screen::Control* control, const screen::Propert
                      &property == &control->Width || &property == &control->Height;
   if (moved) face->place();
   face->show();
-  // What lies in a frame looks disabled with it.
+  // The contents of a frame look disabled with it.
   if (&property == &control->Enabled && control->kind() == screen::Control::Kind::Frame)
     for (const auto& [each, other] : faces_)
       if (each->container() != nullptr) other->show();
@@ -206,7 +206,7 @@ void FormWindow::activeControlChanged() {
   showLater();
 }
 
-/// Changes that no report brought, and those of long events that let others run.
+/// For changes outside of a report, and in long events that let others run.
 void FormWindow::showLater() {
   if (std::exchange(showingLater_, true)) return;
   QTimer::singleShot(0, this, [this] {
@@ -226,7 +226,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 bool FormWindow::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
-    case QEvent::ShortcutOverride:  // no key of a form is a command of the toolkit
+    case QEvent::ShortcutOverride:  // no key of a form is a shortcut of Qt
       event->accept();
       return true;
     case QEvent::KeyPress:
@@ -240,7 +240,7 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
   }
 }
 
-/// Keys come here while no control has the focus.
+/// Keys arrive here while no control has the focus.
 bool FormWindow::event(QEvent* event) {
   const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
                    event->type() == QEvent::ShortcutOverride;
@@ -262,7 +262,7 @@ void FormWindow::keyPressed(const QKeyEvent& event) {
 void FormWindow::keyReleased(const QKeyEvent& event) {
   const auto press = pressed_.find(pressIdentity(event));
   if (event.isAutoRepeat() || press == pressed_.end()) return;
-  // Shift let go first makes it another key to the toolkit, but not to the user.
+  // If Shift is released first, it is another key for Qt, but not for the user.
   screen::Key key = keyOf(event);
   key.code = press->second;
   pressed_.erase(press);

@@ -15,9 +15,9 @@ namespace korvantes::desktop {
 
 class WindowStack;
 
-/// The window of one form. It shows what the form's controls say, reports what the user does, and
-/// keeps the toolkit's focus where the model has it: Qt moves no focus by itself here, and its
-/// focus events mean nothing.
+/// The window of one form. It shows the state of the form's controls, reports what the user does,
+/// and keeps Qt's focus where the model has it: Qt does not move the focus by itself here, and its
+/// focus events are ignored.
 class FormWindow : public QWidget, public FaceWindow, private screen::FormObserver {
  public:
   FormWindow(screen::Form& form, WindowStack& stack, QWidget* parent);
@@ -35,11 +35,11 @@ class FormWindow : public QWidget, public FaceWindow, private screen::FormObserv
   /// The window is on top again.
   void takeFocusBack();
 
-  /// nullptr for a control that has no face.
+  /// nullptr for a control without a face.
   ControlFace* faceOf(const screen::Control& control) const;
-  /// Brings a control into view, where the screen is smaller than the form.
+  /// Scrolls to a control if the screen is smaller than the form.
   void reveal(const screen::Control& control);
-  /// Shows rows and focus as they are now, not only at the next turn of the event loop.
+  /// Shows rows and focus at once instead of in the next turn of the event loop.
   void showNow();
 
  protected:

@@ -48,7 +48,7 @@ bool isFunctionKey(int key, int first, int last) {
   return key >= first && key <= last;
 }
 
-/// The character that the event types; 0 where it types none.
+/// The character that the event types; 0 if none.
 char32_t characterOf(const QKeyEvent& event) {
   const QList<uint> characters = event.text().toUcs4();
   if (characters.size() != 1 || characters[0] < U' ' || characters[0] == 127) return 0;

@@ -9,10 +9,10 @@ class QKeyEvent;
 
 namespace korvantes::desktop {
 
-/// The key of an event, as the model knows keys.
+/// The key of an event in the terms of the model.
 screen::Key keyOf(const QKeyEvent& event);
 
-/// The other way round: what Qt says of that key.
+/// The reverse: the key in the terms of Qt.
 struct QtKey {
   int key = 0;
   Qt::KeyboardModifiers modifiers;
@@ -20,8 +20,7 @@ struct QtKey {
 };
 QtKey qtKeyOf(const screen::Key& key);
 
-/// Tells presses of different keys apart, and knows the release of each again although Shift or
-/// the layout changed meanwhile.
+/// Identifies a key from its press to its release, even if Shift or the layout changes in between.
 quint64 pressIdentity(const QKeyEvent& event);
 
 bool isEnter(const QKeyEvent& event);

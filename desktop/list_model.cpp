@@ -34,7 +34,7 @@ int ListModel::columnCount(const QModelIndex& parent) const {
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(index.row());
   const auto column = static_cast<std::size_t>(index.column());
-  // A list emptied in the running event has fewer rows than the toolkit was told of.
+  // A list emptied in the running event has fewer rows than Qt knows.
   if (!index.isValid() || row >= list_.Count() || column >= list_.ColumnHeaders.size()) return {};
   switch (role) {
     case Qt::DisplayRole:

@@ -6,7 +6,7 @@
 
 namespace korvantes::desktop {
 
-/// The rows of a list, read from the control when they are painted. What the toolkit is told of is
+/// The rows of a list, read from the control when they are painted. Qt only knows
 /// the state at the last readAgain.
 class ListModel : public QAbstractTableModel {
  public:

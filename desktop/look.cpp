@@ -32,7 +32,7 @@ int widestLine(const QFontMetrics& metrics, const QString& text) {
   return metrics.size(Qt::TextShowMnemonic, text).width();
 }
 
-/// The font, made smaller and then narrower until the text fits; nothing when it never does.
+/// The font, made smaller and then narrower until the text fits; empty if it never does.
 bool shrink(const QString& text, QFont& font, int width) {
   for (;;) {
     if (widestLine(QFontMetrics(font), text) <= width) return true;
@@ -79,7 +79,7 @@ QColor colorOf(screen::Color color) {
 }
 
 QFont fontOf(const screen::Font& font) {
-  // Metrics like those of the designed type first; all four families know Spanish.
+  // Metrics like those of the designed font first; all four families have the Spanish letters.
   QFont made(QStringList{"Liberation Sans", "Arimo", "Arial", "DejaVu Sans"});
   made.setPixelSize(static_cast<int>(std::lround(font.size * kPixelsPerPoint)));
   made.setBold(font.bold);

@@ -1,5 +1,5 @@
-// desktop: the Qt 6 face of outside/screen. It shows what the models say and reports what the user
-// does; no rule of a screen lives here.
+// desktop: the Qt 6 face of runtime/screen. It shows the state of the models and reports what the
+// user does; it holds no rules of screens.
 #pragma once
 
 #include <QColor>
@@ -17,30 +17,30 @@ namespace korvantes::desktop {
 
 /// 15 twips are one pixel at 96 dots an inch; Qt scales such pixels to the screen's own.
 int pixels(int twips);
-/// Place of a control within its container. Edges are rounded one by one, so that neighbours that
+/// Area of a control within its container. Edges are rounded one by one, so that neighbours that
 /// touch in twips touch in pixels.
 QRect rectOf(const screen::Control& control);
 
 QColor colorOf(screen::Color color);
-/// Sized in pixels, as the controls are, so that text and boxes keep their proportion.
+/// Sized in pixels, like the controls, so that text and boxes keep their proportions.
 QFont fontOf(const screen::Font& font);
 Qt::Alignment alignmentOf(screen::Alignment alignment);
 
 QString toQt(std::string_view text);
 std::string fromQt(const QString& text);
 
-/// A caption made to fit a width: in a smaller or narrower type where that is enough, otherwise cut
-/// short with an ellipsis. An & marks the access key and takes no room.
+/// A caption fitted to a width: in a smaller or narrower font if that is enough, otherwise cut with
+/// an ellipsis. An & marks the access key and takes no room.
 struct FittedText {
   QFont font;
   QString text;
   bool cut = false;
 };
 FittedText fit(const QString& text, const QFont& font, int width);
-/// The same with a second line, used where one line is too long.
+/// The same with a second line, used if one line is too long.
 FittedText fitTwoLines(const QString& text, const QFont& font, int width);
 
-/// The whole text as tooltip of a widget that shows it cut short; no tooltip otherwise.
+/// The whole text as tooltip of a widget that shows it cut; no tooltip otherwise.
 void tellWhatIsCut(QWidget& widget, const FittedText& shown, const QString& whole);
 
 /// Colours of what the program itself draws: dialogs, lists, buttons.

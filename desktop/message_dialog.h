@@ -8,14 +8,14 @@
 namespace korvantes::desktop {
 
 /// A message box in Spanish, whatever the locale. Escape and the frame button mean Aceptar, or No
-/// where there is a question: leaving a question must not do what it asks about.
+/// for a question: closing a question must not do what it asks about.
 class MessageDialog : public ModalDialog {
  public:
   MessageDialog(WindowStack& stack, const screen::MessageBox& box);
 
   /// Valid once the dialog has been closed.
   screen::Answer answer() const { return answer_; }
-  /// nullptr when the box has no such button.
+  /// nullptr if the box has no such button.
   QPushButton* button(screen::Answer answer) const;
 
  protected:

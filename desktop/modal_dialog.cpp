@@ -47,7 +47,7 @@ QPushButton& ModalDialog::addButton(const QString& caption) {
 }
 
 void ModalDialog::closeByEnter(const std::function<void()>& act, const QKeyEvent& event) {
-  // The Enter that is still held down from the window below answers nothing.
+  // An Enter still held down from the window below must not answer.
   if (event.isAutoRepeat()) return;
   byEnter_ = true;
   act();

@@ -8,14 +8,14 @@ namespace korvantes::desktop {
 
 class WindowStack;
 
-/// A dialog of the desktop's own. It is on the stack while it is shown, and knows whether Enter
-/// closed it, whose release then belongs to the form below.
+/// A dialog of ours. It is on the stack while it is shown, and records whether Enter closed it: the
+/// release of that key then belongs to the form below.
 class ModalDialog : public QDialog {
  public:
   ModalDialog(WindowStack& stack, const QString& title);
   ~ModalDialog() override;
 
-  /// Shows the dialog on the stack; exec or a script follows.
+  /// Shows the dialog on the stack without waiting for an answer.
   void open() override;
   void done(int result) override;
 

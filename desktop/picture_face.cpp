@@ -29,7 +29,7 @@ class ImageWidget : public QWidget {
     if (pixels_.isNull()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    // Scaling down far in one step leaves out rows; Qt's image scaling does not.
+    // The painter skips rows when it scales down far; QImage::scaled does not.
     const QSize target = size() * devicePixelRatioF();
     const bool shrinks = target.width() < pixels_.width() || target.height() < pixels_.height();
     painter.drawImage(

@@ -27,19 +27,19 @@ bool knownFormat(const QByteArray& format) {
   return false;
 }
 
-/// The bytes without a copy, as long as they stay.
+/// A view of the bytes, without a copy.
 QByteArray bytesOf(const ado::Bytes& bytes) {
   return QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                  static_cast<qsizetype>(bytes.size()));
 }
 
-/// The first picture in the bytes; a null image, with the reason, where there is none.
+/// The first picture in the bytes; a null image, with the reason, if there is none.
 QImage decode(const ado::Bytes& bytes, std::string& reason) {
   QByteArray file = bytesOf(bytes);
   QBuffer buffer(&file);
   buffer.open(QIODevice::ReadOnly);
   QImageReader reader(&buffer);
-  // Camera pictures tell in their data which side is up.
+  // Camera pictures store their orientation in their metadata.
   reader.setAutoTransform(true);
   if (!knownFormat(reader.format())) {
     reason = screen::kNoPicture;
@@ -55,7 +55,7 @@ QImage decode(const ado::Bytes& bytes, std::string& reason) {
   return image;
 }
 
-/// On white: a bmp file knows no transparency and would show black there.
+/// On white: a bmp file has no transparency and would be black there.
 QImage opaque(const QImage& image) {
   if (!image.hasAlphaChannel()) return image;
   QImage ground(image.size(), QImage::Format_RGB32);

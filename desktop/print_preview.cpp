@@ -51,7 +51,7 @@ PrintPreview::PrintPreview(QtDesktop& desktop, WindowStack& stack, const PrintDo
           [this](QPrinter* printer) { paintPages(*printer); });
   connect(&pages_, &QPrintPreviewWidget::previewChanged, &bar_, &PreviewBar::showPlace);
   pages_.fitToWidth();
-  // The arrow keys move the pages from the beginning.
+  // The arrow keys scroll the pages from the start.
   if (auto* view = pages_.findChild<QGraphicsView*>()) view->setFocus();
 }
 
@@ -77,7 +77,7 @@ void PrintPreview::showPages() {
   if (failure_) std::rethrow_exception(failure_);
 }
 
-/// Nothing may pass through the toolkit.
+/// No exception may pass through Qt.
 void PrintPreview::paintPages(QPrinter& printer) {
   try {
     document_.paint(printer);
@@ -97,8 +97,8 @@ void PrintPreview::print() {
   document_.setUp(printer);
   printer.setDocName(toQt(document_.title));
   QPrintDialog dialog(&printer, this);
-  // Not PrintPageRange: without it the print server takes the pages out, and we paint them all. A
-  // file is what saving as PDF is for.
+  // Not PrintPageRange: without it the print server selects the pages and we paint all of them. No
+  // file either: that is what saving as PDF is for.
   dialog.setOptions(QAbstractPrintDialog::PrintCollateCopies);
   stack_.opened(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;

@@ -15,7 +15,7 @@ namespace korvantes::desktop {
 class PreviewBar;
 class QtDesktop;
 
-/// A document to be looked at, printed and saved. It is painted as often as that takes.
+/// A document to view, print and save. It is painted each time that one of these needs it.
 struct PrintDocument {
   std::string title;                     ///< of the window, and the file name that a save offers
   std::function<void(QPrinter&)> setUp;  ///< paper and margins
@@ -23,8 +23,8 @@ struct PrintDocument {
   std::function<void(const std::filesystem::path&)> savePdf;  ///< failures are exceptions
 };
 
-/// Shows the pages of a document as they will be printed. What fails while it prints or saves is
-/// told in a message box, and the window stays open.
+/// Shows the pages of a document as they will be printed. A failure while it prints or saves is
+/// shown in a message box, and the window stays open.
 class PrintPreview : public ModalDialog {
  public:
   PrintPreview(QtDesktop& desktop, WindowStack& stack, const PrintDocument& document);

@@ -60,7 +60,7 @@ void QtDesktop::mainWindow(QWidget* window) {
 void QtDesktop::showModal(screen::Form& form) {
   const UsualPointer pointer(mousePointer());
   FormWindow window(form, *stack_, stack_->owner());
-  // Whatever ends the loop, the form is closed and off the stack when this function is left.
+  // However this function is left, the form is closed and off the stack.
   struct Shown {
     QtDesktop& desktop;
     screen::Form& form;
@@ -90,7 +90,7 @@ void QtDesktop::close(screen::Form& form, FormWindow& window) {
   try {
     form.Unload();
   } catch (const std::exception&) {
-    // Another failure is on its way already; the form is closed all the same.
+    // Another exception may be propagating; the form is closed in any case.
   }
   std::erase(forms_, &form);
   stack_->closed(window);

@@ -29,21 +29,21 @@ class QtDesktop : public screen::Desktop {
   QtDesktop();
   ~QtDesktop() override;
 
-  /// Window that forms and dialogs belong to while no form is open; nullptr for none. The first
-  /// form leaves it free, so that it can be closed: while it shows a form it takes no other input.
+  /// The parent of forms and dialogs while no form is open; nullptr for none. The first form does
+  /// not block it, so that it can be closed: it must not take other input while a form is open.
   void mainWindow(QWidget* window);
   /// The open forms, topmost last.
   const std::vector<screen::Form*>& forms() const { return forms_; }
 
-  // Documents, which nobody but a user in front of the windows can deal with.
+  // Documents, for a user in front of the windows.
 
-  /// Shows the pages of a document and returns when the user has done with it. Throws what painting
-  /// them threw.
+  /// Shows the pages of a document and returns when the user has closed it. Propagates exceptions
+  /// of the painting.
   void preview(const PrintDocument& document);
-  /// Asks for the file to save under, beginning in the folder where the last one was saved, at
-  /// first in the user's documents. Nothing when the dialog was left.
+  /// Asks where to save a file, starting in the folder of the last one, at first in the user's
+  /// documents. Empty if the user cancels.
   std::optional<std::filesystem::path> askWhereToSave(const SaveRequest& request);
-  /// Asks the question, and at a Yes opens the file with the program that the user has for it.
+  /// Asks the question, and on Yes opens the file with the program registered for it.
   void offerToOpen(const std::filesystem::path& file, const std::string& question);
 
   void showModal(screen::Form& form) override;
@@ -59,7 +59,7 @@ class QtDesktop : public screen::Desktop {
   void mousePointer(int shape) override;
 
  protected:
-  // Who deals with what has just come up: a user, unless a derived class plays one.
+  // Wait for the user to deal with what has just come up. A derived class may play the user.
 
   /// Returns when the form has been unloaded.
   virtual void attend(screen::Form& form, FormWindow& window);

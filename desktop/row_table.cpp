@@ -46,7 +46,7 @@ class RowDelegate : public QStyledItemDelegate {
       option->palette.setColor(QPalette::HighlightedText, QColor(0x14, 0x14, 0x14));
     }
   }
-  /// The whole text of a cell that shows it cut short.
+  /// The whole text of a cell that shows it cut.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
     const QString text = index.data().toString();
@@ -223,7 +223,7 @@ bool RowTable::viewportEvent(QEvent* event) {
   return QTableView::viewportEvent(event);
 }
 
-/// The focus shows also where no row is.
+/// The focus is visible even if there are no rows.
 void RowTable::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   if (!hasFocus()) return;

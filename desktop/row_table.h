@@ -13,10 +13,10 @@ class RowTable : public QTableView {
  public:
   explicit RowTable(QWidget& parent);
 
-  /// The left button went down on a cell.
+  /// The left button was pressed on a cell.
   std::function<void(const QModelIndex& cell, const QPoint& place)> onPress;
   std::function<void(const QModelIndex& cell, const QPoint& place)> onDoubleClick;
-  /// The left button went down where no row is.
+  /// The left button was pressed outside all rows.
   std::function<void()> onPressOutside;
   std::function<void(int column)> onHeading;
 
@@ -26,9 +26,9 @@ class RowTable : public QTableView {
   void fitHeadings();
   void colors(const QColor& back, const QColor& text);
   void type(const QFont& font);
-  /// Width that shows the caption of a column in its usual type.
+  /// Width that shows the caption of a column in its usual font.
   int headingWidth(int column) const;
-  /// Where the check mark of a cell stands.
+  /// The area of the check mark in a cell.
   QRect checkMark(const QModelIndex& cell) const;
   /// Width at the right end of a cell that its text leaves free.
   virtual int reserved(const QModelIndex&) const { return 0; }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize kSize(720, 460);
 
-/// Asks the house's way before a file is replaced.
+/// Asks before a file is replaced, with a message box of ours.
 class SaveDialog : public QFileDialog {
  public:
   SaveDialog(QtDesktop& desktop, WindowStack& stack, const SaveRequest& request,

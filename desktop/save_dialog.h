@@ -9,7 +9,7 @@ namespace korvantes::desktop {
 class QtDesktop;
 class WindowStack;
 
-/// A file to be saved, as it is suggested to the user.
+/// What is suggested to the user for a file to be saved.
 struct SaveRequest {
   std::string title;   ///< of the dialog
   std::string filter;  ///< "Description|*.a", pairs joined by |
@@ -17,11 +17,11 @@ struct SaveRequest {
   std::string name;    ///< with its suffix, without a folder
 };
 
-/// The user's folder for documents, or his home where he has none.
+/// The user's folder for documents, or the home folder if there is none.
 std::filesystem::path documentsFolder();
 
-/// Asks for the file to save under, beginning in the folder; nothing when the dialog was left. A
-/// file that is there is only given after the user has agreed to replace it.
+/// Asks where to save a file, starting in the folder; empty if the user cancels. An existing file
+/// is only returned after the user has agreed to replace it.
 std::optional<std::filesystem::path> askWhereToSave(QtDesktop& desktop, WindowStack& stack,
                                                     const SaveRequest& request,
                                                     const std::filesystem::path& folder);

@@ -16,7 +16,7 @@ namespace korvantes::desktop {
 
 namespace {
 
-/// Place in a QString of character `index`; the model counts characters, Qt halves of pairs.
+/// Position in a QString of character `index`; the model counts characters, Qt UTF-16 units.
 int toQtPlace(const QString& text, int index) {
   int place = 0;
   for (; index > 0 && place < text.size(); --index)
@@ -32,7 +32,7 @@ int fromQtPlace(const QString& text, int place) {
 }
 
 /// A line of text of which Qt draws text, caret and selection. What is typed, pasted, dropped or
-/// composed goes to the model, which filters it; the field then shows what the model says.
+/// composed goes to the model, which filters it; the field then shows the text of the model.
 class TextWidget : public QLineEdit {
  public:
   TextWidget(screen::TextBox& box, FaceWindow& window, QWidget& parent)
@@ -189,8 +189,8 @@ class TextFace : public ControlFace {
   }
 
  private:
-  /// A field that cannot be entered takes on something of the colour around it; its text keeps the
-  /// full contrast, since computed amounts stand in such fields.
+  /// A field that cannot be edited is tinted with the colour around it; its text keeps full
+  /// contrast, because such fields show computed amounts.
   void showColors() {
     QColor back = colorOf(box_.BackColor());
     if (!looksEnabled() || box_.Locked()) back = mixed(back, colorOf(background()), 0.45);
@@ -201,7 +201,7 @@ class TextFace : public ControlFace {
     if (colors != widget_.palette()) widget_.setPalette(colors);
   }
 
-  /// A text too long for the field shows its beginning while the user is elsewhere.
+  /// A text too long for the field shows its beginning while the focus is elsewhere.
   void showSelection() {
     if (window().form().ActiveControl() == &box_)
       widget_.showSelection();

@@ -70,14 +70,15 @@ void WindowStack::oweEnterRelease() {
 }
 
 /// The release of the Enter that closed a dialog arrives wherever the window system has put the
-/// focus meanwhile.
+/// focus in the meantime.
 bool WindowStack::eventFilter(QObject*, QEvent* event) {
   if (!enterOwed_) return false;
   if (event->type() != QEvent::KeyRelease && event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<QKeyEvent&>(*event);
   if (!isEnter(key) || key.isAutoRepeat()) return false;
   enterOwed_ = false;
-  if (event->type() == QEvent::KeyPress) return false;  // pressed anew: that release is lost
+  if (event->type() == QEvent::KeyPress)
+    return false;  // pressed again: the earlier release is lost
   queue_.push_back({screen::keyTyping(U'\r'), false, true});
   settleLater();
   return true;
@@ -93,7 +94,7 @@ void WindowStack::settleLater() {
 }
 
 void WindowStack::settle() {
-  // What a form that is going away has not taken is for the one below, once that is on top.
+  // Keys that a closing form has not taken are for the one below, once it is on top.
   while (!queue_.empty() && topForm() != nullptr && topForm()->form().loaded()) {
     const Queued next = queue_.front();
     queue_.pop_front();

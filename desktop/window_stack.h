@@ -16,7 +16,7 @@ class FormWindow;
 
 /// The windows that the desktop has open, and the keys that wait for the topmost form: keys sent
 /// by the program, and releases of the Enter that closed a dialog. They reach the form when no
-/// dialog lies over it and the running event has ended, or when the program lets events run.
+/// dialog is above it and the running event has ended, or when the program lets events run.
 class WindowStack : public QObject {
  public:
   WindowStack();
@@ -24,32 +24,33 @@ class WindowStack : public QObject {
 
   void opened(QWidget& window, FormWindow* form = nullptr);
   void closed(QWidget& window);
-  /// A dialog came and went that a script answered without showing it.
+  /// A dialog was answered without being shown.
   void passed() { changed(); }
 
-  /// The topmost window, form or dialog; nullptr when none is open.
+  /// The topmost window, form or dialog; nullptr if none is open.
   QWidget* top() const { return windows_.empty() ? nullptr : windows_.back().widget; }
-  /// The topmost form's window, also under a dialog; nullptr when none is open.
+  /// The topmost form's window, also under a dialog; nullptr if none is open.
   FormWindow* topForm() const;
-  /// The topmost one that is still to be seen: a form that was closed hides at once, and leaves the
-  /// stack when its event has ended.
+  /// The topmost visible one: a closed form hides at once, but leaves the stack only when its event
+  /// has ended.
   QWidget* topVisible() const;
-  /// The window that a new one belongs to; nullptr for none.
+  /// The parent of a new window; nullptr for none.
   QWidget* owner() const;
-  /// Where the first form belongs to.
+  /// The parent of the first form.
   void mainWindow(QWidget* window) { mainWindow_ = window; }
   QWidget* mainWindow() const { return mainWindow_; }
   /// Counts windows opened and closed.
   std::size_t changes() const { return changes_; }
 
   void sendKey(const screen::Key& key);
-  /// A press of Enter closes the topmost dialog: its release is for the form right below it.
+  /// A press of Enter is closing the topmost dialog: its release belongs to the form directly
+  /// below.
   void oweEnterRelease();
   /// Hands the waiting keys to the topmost form.
   void settle();
 
-  /// An exception that must not pass through the toolkit, and the place behind it where it may
-  /// travel on.
+  /// Keeps an exception that must not pass through Qt until rethrow, called outside it, lets it
+  /// propagate.
   void keepFailure(std::exception_ptr failure) { failure_ = std::move(failure); }
   void rethrow();
 

@@ -32,7 +32,7 @@ BaseCard::BaseCard(QWidget* parent)
   words_.setTextFormat(Qt::PlainText);
   words_.setTextInteractionFlags(Qt::TextSelectableByMouse);
   words_.setFocusPolicy(Qt::NoFocus);
-  words_.setMinimumWidth(1);  // it is fitted to the card, not the card to it
+  words_.setMinimumWidth(1);  // the text is fitted to the card, not the card to the text
 
   auto& layout = makeChild<QHBoxLayout>(this);
   layout.setContentsMargins(kGap, kGap, kGap, kGap);
@@ -63,7 +63,7 @@ void BaseCard::show(const char* icon, const QString& heading, const QString& wor
   fitWords();
 }
 
-/// A path is cut in its middle, where it says least; a sentence takes as many lines as it needs.
+/// A path is cut in the middle, where it matters least; a sentence takes as many lines as it needs.
 void BaseCard::fitWords() {
   if (problem_) {
     words_.setText(whole_);

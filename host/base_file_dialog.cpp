@@ -35,7 +35,7 @@ std::optional<std::string> askForNewBaseFile(QWidget& parent, const std::string&
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix("db");
-  // A file that exists is never written over, so there is nothing to confirm.
+  // An existing file is never overwritten, so there is nothing to confirm.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   return ask(dialog, current, "&Crear");
 }

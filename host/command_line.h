@@ -18,7 +18,7 @@ struct CommandLine {
   std::optional<screen::Regional> regional;  ///< the machine's without it
   std::optional<ado::Date> today;            ///< the machine's without it
   bool desktop = false;                      ///< real windows, also for scripts
-  /// Where reports, spreadsheets and pictures go when there is no display.
+  /// Where reports, spreadsheets and pictures go if there is no display.
   std::filesystem::path output = "out";
   bool help = false;
   bool version = false;
@@ -26,8 +26,8 @@ struct CommandLine {
   std::vector<std::string> arguments;
 };
 
-/// Reads the arguments behind the program's name. Throws Failure for an unknown option, one without
-/// its value, or a value that is none.
+/// Reads the arguments after the program's name. Throws Failure for an unknown option, a missing
+/// value or an invalid one.
 CommandLine readCommandLine(const std::vector<std::string>& arguments);
 
 /// The text of --ayuda.

@@ -2,7 +2,7 @@
 
 namespace korvantes::host {
 
-/// A screen that the desktop offers.
+/// A screen that the main window offers.
 struct DesktopEntry {
   const char* screen;   ///< as scripts name it
   const char* caption;  ///< with the access key

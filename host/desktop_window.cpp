@@ -28,7 +28,7 @@ constexpr int kMargin = 20;
 constexpr int kWidth = 560;
 constexpr int kButtonMargin = 16;
 
-/// A sentence begins with a capital letter and ends with a full stop; failures are told in neither.
+/// Makes a sentence with a capital letter and a full stop; the texts of failures have neither.
 std::string asSentence(std::string_view words) {
   QString text = toQt(onOneLine(words));
   if (!text.isEmpty()) text[0] = text[0].toUpper();
@@ -117,7 +117,7 @@ void DesktopWindow::addBase(QVBoxLayout& layout) {
 }
 
 void DesktopWindow::addMenus() {
-  // The menu's own parts have the access keys B, C, A; buttons of the window use others.
+  // The menus use the access keys B, C and A; the buttons of the window use others.
   QMenu& bases = *menuBar()->addMenu("&Base de datos");
   bases.addAction(iconNamed("base"), "&Elegir base de datos…", QKeySequence("Ctrl+O"), this,
                   [this] { askForBase(); });
@@ -174,7 +174,7 @@ void DesktopWindow::askForSample() {
   if (const auto path = askForNewBaseFile(*this, base_.name())) makeSample(*path);
 }
 
-/// Nothing may pass through the toolkit.
+/// No exception may pass through Qt.
 void DesktopWindow::attempt(const std::function<void()>& work) {
   try {
     work();
@@ -201,7 +201,7 @@ void DesktopWindow::refresh() {
   if (open && focusWidget() == nullptr) buttons_.front()->setFocus();
 }
 
-/// Who activates it while a screen is open wants that screen.
+/// Activating it while a screen is open activates that screen.
 void DesktopWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;

@@ -18,14 +18,14 @@ namespace korvantes::host {
 
 /// The main window: the database in use and the screens that can be opened on it.
 ///
-/// Whatever fails in it or leaves a screen becomes a message box. Closing it ends the program:
-/// forms that are open are unloaded, which stores nothing and asks nothing.
+/// A failure in it, or an exception that leaves a screen, becomes a message box. Closing it ends
+/// the program: forms that are open are unloaded, which stores nothing and asks nothing.
 class DesktopWindow : public QMainWindow {
  public:
   explicit DesktopWindow(desktop::QtDesktop& desktop);
   ~DesktopWindow() override;
 
-  /// Opens the first database: where that fails, the window says why and stays usable.
+  /// Opens the first database. If that fails, the window says why and stays usable.
   void openBase(const std::optional<std::string>& url);
 
   // What the menus and buttons do.

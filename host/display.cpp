@@ -14,7 +14,7 @@ bool isSet(const char* name) {
   return value != nullptr && *value != '\0';
 }
 
-/// Asks the library with which Qt's module for X is linked; that module comes with Qt.
+/// Uses the library that Qt's module for X is linked with; that module comes with Qt.
 bool xServerAnswers() {
   const std::unique_ptr<void, int (*)(void*)> library(::dlopen("libxcb.so.1", RTLD_NOW), ::dlclose);
   if (library == nullptr) return false;
@@ -25,7 +25,7 @@ bool xServerAnswers() {
   const auto disconnect =
       reinterpret_cast<void (*)(void*)>(::dlsym(library.get(), "xcb_disconnect"));
   if (connect == nullptr || hasError == nullptr || disconnect == nullptr) return false;
-  // A connection that failed is an object all the same, and has to be given back.
+  // A failed connection is still an object that must be freed.
   const std::unique_ptr<void, void (*)(void*)> connection(connect(nullptr, nullptr), disconnect);
   return hasError(connection.get()) == 0;
 }

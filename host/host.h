@@ -1,5 +1,5 @@
 // host: the sample host application of the component. It opens a database, creates the component,
-// hands the database to it, and serves its command line. It alone sees all other folders and puts
+// hands the database to it, and serves its command line. It alone knows all other folders and puts
 // them together.
 #pragma once
 
@@ -15,7 +15,7 @@ struct Streams {
   std::ostream& err;
 };
 
-/// Runs the program on its arguments (without the program's name). Gives the exit status: 0, or 1
+/// Runs the program on its arguments (without the program's name). Returns the exit status: 0, or 1
 /// with one line on `err`.
 int runHost(const std::vector<std::string>& arguments, Streams streams);
 

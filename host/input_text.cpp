@@ -23,7 +23,7 @@ std::string readInput(const std::string& path, std::istream& standardInput) {
   };
   std::ifstream file(path, std::ios::binary);
   if (!file) throw refuse(errno);
-  // A folder opens, but does not read.
+  // A folder can be opened, but not read.
   if (file.peek() == std::ifstream::traits_type::eof() && file.bad()) throw refuse(EISDIR);
   return wholeText(file);
 }

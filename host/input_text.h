@@ -5,7 +5,7 @@
 
 namespace korvantes::host {
 
-/// The whole text of a file, or of the standard input for "-". Throws Failure when it cannot be
+/// The whole text of a file, or of the standard input for "-". Throws Failure if it cannot be
 /// read.
 std::string readInput(const std::string& path, std::istream& standardInput);
 

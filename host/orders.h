@@ -7,8 +7,8 @@
 
 namespace korvantes::host {
 
-/// The orders of the command line. Each throws Failure, ado::Error or ado::ConversionError with the
-/// words for the user.
+/// The orders of the command line. Each throws Failure, ado::Error or ado::ConversionError with a
+/// sentence for the user.
 
 /// crear and demo: the tables, empty or with sample data.
 void orderCreate(const CommandLine& line, Streams streams);
@@ -23,8 +23,8 @@ void orderCommission(const CommandLine& line, Streams streams);
 /// guion: plays a script. A line of it that could not be done makes the order fail at the end.
 void orderScript(const CommandLine& line, Streams streams);
 
-/// No order and no display: plays the sample settlement on a database of its own, which is removed
-/// afterwards, so that it works again and again and no database of the user changes.
+/// No order and no display: plays the sample settlement on a temporary database, so that it can be
+/// repeated and no database of the user changes.
 void playSampleSettlement(const CommandLine& line, Streams streams);
 
 }  // namespace korvantes::host

@@ -5,9 +5,9 @@
 
 namespace korvantes::host {
 
-/// Those of the component: liquidacion (on an empty settlement, or with a number on that one, as
-/// the report screen opens it), informe, agentes. Throw Failure for a number that is not taken, and
-/// what a form throws while it is loaded.
+/// The screens of the component: liquidacion (empty, or with the number of a stored settlement, as
+/// the report screen opens it), informe, agentes. Throw Failure for a number where none is
+/// expected; exceptions of a loading form propagate.
 scripts::Screens screensOf(KORVAN& component);
 
 }  // namespace korvantes::host

@@ -25,7 +25,7 @@ std::unique_ptr<scripts::Stage> makeWindowStage() {
 }
 
 void runDesktop(const CommandLine& line) {
-  // A window that nobody sees could not be closed either. Whoever names a platform knows why.
+  // Nobody could close a window that is not visible. Naming a platform overrides this.
   if (!displayAvailable() && std::getenv("QT_QPA_PLATFORM") == nullptr)
     throw Failure("--escritorio: no hay pantalla; véase --ayuda");
   desktop::Application application;
@@ -33,7 +33,7 @@ void runDesktop(const CommandLine& line) {
   if (line.regional) desktop.regional(*line.regional);
   desktop.version(kVersion);
   offerDocumentsOnWindows(desktop);
-  // Before the desktop goes, no screen may look for it any more.
+  // No screen may use the desktop once it is being destroyed.
   struct Current {
     explicit Current(screen::Desktop& desktop) { screen::Desktop::makeCurrent(&desktop); }
     ~Current() { screen::Desktop::makeCurrent(nullptr); }

@@ -7,8 +7,8 @@
 
 namespace korvantes::host {
 
-// What the program does with real windows. It can be built without them; then the functions that
-// need some throw Failure.
+// What the program does with real windows. In a build without them, the functions that need windows
+// throw Failure.
 
 /// Whether the program was built with windows.
 bool hasWindows();

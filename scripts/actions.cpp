@@ -13,7 +13,7 @@
 namespace korvantes::scripts {
 namespace {
 
-/// One action: what follows the verb's blank, as it stands.
+/// One action. The text is everything after the blank that follows the verb, unchanged.
 using Action = void (*)(Run& run, std::string_view text);
 
 void open(Run& run, std::string_view text) {
@@ -79,7 +79,7 @@ void pushButton(Run& run, std::string_view text) {
   run.user().click(button);
 }
 
-/// A mark that is already as wanted needs no click; the focus goes there all the same.
+/// A mark that is already as wanted needs no click; the focus moves there anyway.
 void setMark(Run& run, std::string_view text, bool checked) {
   Words words(text);
   screen::Control& control = usableControl(run, words.word("la casilla"));
@@ -136,7 +136,7 @@ void chooseEntry(Run& run, std::string_view text) {
 
 void selectRow(Run& run, std::string_view text) {
   Words words(text);
-  auto& grid = usableControl<screen::DataGrid>(run, words.word("la rejilla"), "una rejilla");
+  auto& grid = usableControl<screen::DataGrid>(run, words.word("la cuadrícula"), "una cuadrícula");
   const std::size_t row = words.number("la fila", 1);
   words.end();
   if (row > grid.RowCount())
@@ -156,7 +156,7 @@ void clickHeading(Run& run, std::string_view text) {
 
 void pressCell(Run& run, std::string_view text) {
   Words words(text);
-  auto& grid = usableControl<screen::DataGrid>(run, words.word("la rejilla"), "una rejilla");
+  auto& grid = usableControl<screen::DataGrid>(run, words.word("la cuadrícula"), "una cuadrícula");
   const std::size_t column = words.number("la columna", 0);
   words.end();
   if (!grid.currentRow()) throw Failure(grid.identity() + " no tiene fila actual");

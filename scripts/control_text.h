@@ -8,19 +8,19 @@
 
 namespace korvantes::scripts {
 
-/// The model of the screen in words, one text per line of a transcript.
+// The model of the screen as text, one string per line of a transcript.
 
 /// "Text1(10) = "12,5"", by the property that matters most: the text of a field, the caption of a
 /// button, the value of a check box. Lists and grids: "ListView1 = 3 filas".
 std::string controlLine(const screen::Control& control);
 
-/// "cmdGrabar.Width = 1935". Throws Failure for a property that the control does not have.
+/// "cmdGrabar.Width = 1935". Throws Failure if the control has no such property.
 std::string propertyLine(const screen::Control& control, std::string_view property);
 
 /// "Tag = "e"", of the form itself. Throws Failure as above.
 std::string propertyLine(const screen::Form& form, std::string_view property);
 
-/// A heading line of the visible columns, and a line per row behind "[x] " or "[ ] ".
+/// A heading line of the visible columns, and a line per row that starts with "[x] " or "[ ] ".
 std::vector<std::string> listLines(const screen::ListView& list);
 
 /// A heading line of the visible columns, and a line per row.

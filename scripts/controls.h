@@ -7,14 +7,15 @@
 
 namespace korvantes::scripts {
 
-/// A control of the topmost form, by its identity. Throws Failure when there is none.
+/// A control of the topmost form, by its identity. Throws Failure if there is none.
 screen::Control& findControl(const Run& run, std::string_view identity);
 
-/// The same, for an action on it: a hidden or a disabled one, or one in a disabled frame, is a
-/// Failure too.
+/// The same, for an action on it: also throws Failure if it is hidden, disabled or in a disabled
+/// frame.
 screen::Control& usableControl(const Run& run, std::string_view identity);
 
-/// The control as the kind that an action needs; a Failure "Text1(0) no es un botón" otherwise.
+/// The control as the kind that an action needs. Throws Failure "Text1(0) no es un botón"
+/// otherwise.
 template <class T>
 T& usableControl(const Run& run, std::string_view identity, std::string_view kindName) {
   screen::Control& control = usableControl(run, identity);

@@ -19,7 +19,7 @@ struct Reply {
 };
 
 /// What a script or a test decides in place of a user. Each may be empty; a dialog without a cue of
-/// its own is left (lists, files) or gets a click on its default button (messages).
+/// its own is cancelled (lists, files) or gets a click on its default button (messages).
 struct Cues {
   /// Called again and again with the topmost form until that form is closed.
   std::function<void(screen::Form&)> whileShown;

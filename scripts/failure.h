@@ -6,16 +6,16 @@
 
 namespace korvantes {
 
-/// What ends an order: one Spanish sentence for the user.
+/// Ends an order: one Spanish sentence for the user.
 class Failure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// The words on one line: line breaks and other control characters become single blanks.
+/// The text on one line: line breaks and other control characters become single blanks.
 std::string onOneLine(std::string_view words);
 
-/// A value as messages quote it: «valor».
+/// Quotes a value as messages do: «valor».
 std::string inQuotes(std::string_view value);
 
 }  // namespace korvantes

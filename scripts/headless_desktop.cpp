@@ -41,7 +41,7 @@ screen::UserInput HeadlessDesktop::input() const {
 }
 
 void HeadlessDesktop::settle() {
-  // What a form that is going away has not taken is for the one below, once that is on top.
+  // Keys that a closing form has not taken are for the one below, once it is on top.
   while (!queue_.empty() && !forms_.empty() && forms_.back()->loaded()) {
     const Queued next = queue_.front();
     queue_.pop_front();
@@ -57,7 +57,7 @@ void HeadlessDesktop::run(const Queued& queued) {
 }
 
 void HeadlessDesktop::showModal(screen::Form& form) {
-  // Whatever ends the loop, the form is closed and off the stack when this function is left.
+  // However this function is left, the form is closed and off the stack.
   struct Shown {
     HeadlessDesktop& desktop;
     screen::Form& form;
@@ -79,7 +79,7 @@ void HeadlessDesktop::close(screen::Form& form) {
   try {
     form.Unload();
   } catch (const std::exception&) {
-    // Another failure is on its way already; the form is closed all the same.
+    // Another exception may be propagating; the form is closed in any case.
   }
   std::erase(forms_, &form);
   ++windowChanges_;

@@ -17,16 +17,16 @@ namespace korvantes::scripts {
 
 void offerSpreadsheets(office::Registry& objects, std::shared_ptr<office::SheetOutlet> outlet);
 
-/// Spreadsheets and reports of a script run: each is a file in the folder, and a happening of the
-/// transcript, "[hoja] N filas | PATH" or "[informe NUMBER] N filas | PATH". The folder is made
-/// when the first one comes. The transcript must outlive the offer.
+/// Offers spreadsheets and reports for a script run: each is a file in the folder and an event of
+/// the transcript, "[hoja] N filas | PATH" or "[informe NUMBER] N filas | PATH". The folder is
+/// created with the first one. The transcript must outlive the offer.
 void offerDocumentsInFolder(office::Registry& objects, std::filesystem::path folder,
                             Transcript& transcript);
-/// Ends the offer: from now on creating such an object is an ado::Error.
+/// Ends the offer: creating such an object throws ado::Error from then on.
 void withdrawDocuments(office::Registry& objects);
 
-/// The part of the reports. A program built without windows cannot lay out pages: there, creating
-/// the object is an ado::Error that says so.
+/// The same for reports alone. A program built without windows cannot lay out pages: there,
+/// creating the object throws an ado::Error that says so.
 void offerReportsInFolder(office::Registry& objects, std::shared_ptr<office::OutputFolder> folder,
                           Transcript& transcript);
 

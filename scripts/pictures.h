@@ -10,15 +10,15 @@
 
 namespace korvantes::scripts {
 
-/// The pictures that a script takes of the windows. A name without a folder of its own lands in
-/// that of the program's output, which is made when it is missing. Each picture is a happening of
-/// the transcript, "[captura] NAME", or "[captura] sin pantalla" on a stage that draws nothing.
+/// Takes the pictures of windows that a script asks for. A name without a folder goes to the folder
+/// of the program's output, which is created if missing. Each picture is an event of the
+/// transcript, "[captura] NAME", or "[captura] sin pantalla" on a stage that draws nothing.
 class Pictures {
  public:
   Pictures(Stage& stage, Transcript& transcript, std::filesystem::path folder)
       : stage_(stage), transcript_(transcript), folder_(std::move(folder)) {}
 
-  /// Of the topmost window. Throws Failure or ado::Error when it cannot be written.
+  /// Of the topmost window. Throws Failure or ado::Error if it cannot be written.
   void take(const std::string& name);
   /// Of the next message box or list dialog, before it is answered.
   void takeOfNextDialog(std::string name) { waiting_.push_back(std::move(name)); }

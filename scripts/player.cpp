@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// The lines that say something, without the blanks in front of them.
+/// The lines that are not blank, without their leading blanks.
 std::deque<std::string> linesOf(std::string_view script) {
   if (script.starts_with(kByteOrderMark)) script.remove_prefix(kByteOrderMark.size());
   std::deque<std::string> lines;
@@ -64,8 +64,8 @@ int Player::play(std::string_view script) {
   return transcript_.errors();
 }
 
-/// False when the script has ended. Lines that follow an opened screen are played in here too,
-/// until that screen closes.
+/// False if the script has ended. If a line opens a screen, the lines after it are played inside
+/// this call until that screen closes.
 bool Player::playNextLine() {
   if (lines_.empty()) return false;
   const std::string line = std::move(lines_.front());

@@ -12,7 +12,7 @@ namespace korvantes::scripts {
 
 /// Plays the user from a script: one action a line, "#" begins a comment line. It drives the real
 /// screens on a stage, whose desktop is the current one for its lifetime, and prints a transcript:
-/// each line behind "> " (blank ones aside), and under it what happened.
+/// each line after "> " (except blank ones), and below it what happened.
 ///
 /// A line that cannot be done is an "[error]" and the run goes on. A form still open when the
 /// script has ended is closed.
@@ -25,7 +25,7 @@ class Player {
   Player(const Player&) = delete;
   Player& operator=(const Player&) = delete;
 
-  /// Gives the number of errors.
+  /// Returns the number of errors.
   int play(std::string_view script);
 
  private:

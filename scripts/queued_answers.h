@@ -9,17 +9,17 @@
 
 namespace korvantes::scripts {
 
-/// The answers that a script has ready for the dialogs to come. Each dialog prints its happening
-/// and takes the first answer of its kind; without one, a message box gets a click on its default
-/// button and the others are left. An answer that does not suit its dialog is an error in the
-/// transcript, and is used up.
+/// The answers that a script has queued for the next dialogs. Each dialog is written to the
+/// transcript and takes the first answer of its kind; without one, a message box gets a click on
+/// its default button and the others are cancelled. An answer that does not suit its dialog is an
+/// error in the transcript, and is consumed.
 class QueuedAnswers {
  public:
   /// What answers a message box: a button, or the Enter key on the default one.
   enum class Button { Ok, Yes, No, EnterKey };
 
   struct ListChoice {
-    std::optional<std::size_t> row;  ///< from 1; nothing: leave the dialog
+    std::optional<std::size_t> row;  ///< from 1; empty: cancel the dialog
     bool byEnter = false;
   };
 
@@ -27,7 +27,7 @@ class QueuedAnswers {
 
   void add(Button button) { buttons_.push_back(button); }
   void add(ListChoice choice) { choices_.push_back(choice); }
-  /// Nothing: leave the dialog.
+  /// Empty: cancel the dialog.
   void addFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
 
   Reply<screen::Answer> answer(const screen::MessageBox& box);

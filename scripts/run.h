@@ -19,7 +19,7 @@ struct Run {
   Pictures& pictures;
 
   User& user() const { return stage.user(); }
-  /// The topmost form. Throws Failure when none is open.
+  /// The topmost form. Throws Failure if none is open.
   screen::Form& form() const;
 };
 

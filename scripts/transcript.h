@@ -17,10 +17,10 @@ class Transcript {
   void happening(std::string_view kind, std::string_view words);
   /// "[error] words"; counted.
   void error(std::string_view words);
-  /// A line as it stands, but for line breaks, which show as \n.
+  /// A line unchanged, except that line breaks show as \n.
   void line(std::string_view text);
 
-  /// For what prints several lines of its own.
+  /// For callers that print several lines.
   std::ostream& stream() { return out_; }
   int errors() const { return errors_; }
 

@@ -5,7 +5,7 @@
 
 namespace korvantes::scripts {
 
-/// Reads a whole number between the limits. Throws Failure, naming the argument.
+/// Reads a whole number within the limits. Throws a Failure that names the argument.
 std::int64_t readWholeNumber(std::string_view argument, std::string_view text,
                              std::int64_t smallest, std::int64_t largest);
 

@@ -23,7 +23,7 @@ void ComboBox::Clear() {
 }
 
 void ComboBox::propertyChanged(const PropertyBase& property) {
-  // An assignment that differs from what is in force came from outside of this class.
+  // A value that differs from the current one was assigned outside this class.
   if (&property == &ListIndex && ListIndex() != selected_)
     indexAssigned();
   else if (&property == &Text && Text() != shownText_)

@@ -12,7 +12,7 @@ namespace korvantes::screen {
 class Form;
 class Frame;
 
-/// Where a control stands: twips, relative to its container.
+/// Position and size of a control: twips, relative to its container.
 struct Box {
   int left = 0, top = 0, width = 0, height = 0;
 };
@@ -37,7 +37,7 @@ class Control : public PropertyOwner {
     CommonDialog
   };
 
-  /// @param index place in a control array; nothing for a control that stands alone
+  /// @param index place in a control array; empty for a single control
   Control(Form& form, Kind kind, std::string name, std::optional<int> index = std::nullopt);
   ~Control() override;
   Control(const Control&) = delete;
@@ -50,7 +50,7 @@ class Control : public PropertyOwner {
   /// "cmdGrabar", "Text1(10)".
   std::string identity() const;
 
-  /// The frame it lies in; nullptr when it lies on the form itself.
+  /// The frame that contains it; nullptr if it is directly on the form.
   Frame* container() const { return container_; }
   void container(Frame* frame) { container_ = frame; }
   void place(const Box& box);
@@ -65,8 +65,8 @@ class Control : public PropertyOwner {
   /// canTakeFocus, with TabStop: where Tab leads.
   bool isTabStop() const;
 
-  /// Asks for the focus. Inside an event handler it is honoured when the handler has ended, the
-  /// last call winning; outside at once. A control that cannot take the focus is left alone.
+  /// Asks for the focus. Inside an event handler the request is carried out when the handler ends,
+  /// and the last call wins; elsewhere at once. Does nothing if the control cannot take the focus.
   void SetFocus();
 
   Property<int> Left{*this, "Left"}, Top{*this, "Top"};
@@ -82,7 +82,7 @@ class Control : public PropertyOwner {
   /// assignment raises an event, inside that assignment.
   std::function<void()> GotFocus, LostFocus, Click;
   /// Key released while this control had the focus; the form's own KeyUp has run before. Setting
-  /// the code to 0 tells that the key is used up.
+  /// the code to 0 marks the key as handled.
   std::function<void(int& keyCode, int shift)> KeyUp;
 
  protected:
@@ -96,9 +96,9 @@ class Control : public PropertyOwner {
   Frame* container_ = nullptr;
 };
 
-/// Letter behind the & of a caption, upper case; 0 when there is none ("&&" is a plain &).
+/// The letter after the & of a caption, upper case; 0 if there is none ("&&" is a plain &).
 char32_t accessKeyOf(std::string_view caption);
-/// The caption without its mark.
+/// The caption without the & of its access key.
 std::string captionWithoutMark(std::string_view caption);
 
 }  // namespace korvantes::screen

@@ -21,7 +21,7 @@ class Label : public Control {
   Property<bool> Transparent{*this, "Transparent", true};
 };
 
-/// A box of controls. A disabled or hidden frame disables or hides all that lies in it.
+/// A box of controls. A disabled or hidden frame disables or hides everything in it.
 class Frame : public Control {
  public:
   explicit Frame(Form& form, std::string name, std::optional<int> index = std::nullopt);
@@ -39,7 +39,7 @@ class TextBox : public Control {
   Property<int> MaxLength{*this, "MaxLength"};
   Property<bool> Locked{*this, "Locked", false};  ///< read-only for the user
   Property<Alignment> TextAlignment{*this, "Alignment"};
-  /// Setting SelStart takes the selection away; both keep within the text.
+  /// Setting SelStart clears the selection; both stay within the text.
   Property<int> SelStart{*this, "SelStart"}, SelLength{*this, "SelLength"};
 
   std::function<void()> Change;
@@ -53,7 +53,7 @@ class TextBox : public Control {
   void select(int start, int length, bool caretFirst = false);
 
   std::optional<int> caretAfterEdit_;  ///< where the user's edit leaves the caret
-  bool caretFirst_ = false;            ///< the caret stands before the selection, not behind it
+  bool caretFirst_ = false;            ///< the caret is before the selection, not after it
   bool changeHeld_ = false;            ///< Change comes later, once for several edits
 };
 
@@ -86,12 +86,13 @@ class ComboBox : public Control {
   explicit ComboBox(Form& form, std::string name, std::optional<int> index = std::nullopt);
   /// True: the text can also be typed.
   Property<bool> Editable{*this, "Editable", false};
-  /// -1 when nothing is selected. Setting an entry sets Text to it; an index without an entry is a
-  /// std::out_of_range.
+  /// -1 if nothing is selected. Setting an entry sets Text to it; throws std::out_of_range for an
+  /// index without an entry.
   Property<int> ListIndex{*this, "ListIndex", -1};
   Property<int> ListCount{*this, "ListCount", 0};
-  /// On a list without typing, an assignment selects the entry of that text; a text that is no
-  /// entry is a std::invalid_argument. On the other kind it deselects, without Click.
+  /// On a list that cannot be typed into, an assignment selects the entry with that text and throws
+  /// std::invalid_argument if there is none. On the other kind it clears the selection, without
+  /// Click.
   Property<std::string> Text{*this, "Text"};
 
   void AddItem(std::string entry);
@@ -109,7 +110,7 @@ class ComboBox : public Control {
   void typeOver(std::string text);
 
   std::vector<std::string> list_;
-  int selected_ = -1;  ///< the ListIndex and the text in force
+  int selected_ = -1;  ///< the current ListIndex and text
   std::string shownText_;
 };
 
@@ -121,8 +122,8 @@ class PictureButton : public Control {
   /// Name of the icon for a face that has icons: "buscar", "guardar", "salir" …
   Property<std::string> Icon{*this, "Icon"};
 
-  /// What a form's layout says of a button; the colours are the system's.
-  /// @param caption with its access key behind "&"
+  /// What a form's layout sets on a button; the colours are the system's.
+  /// @param caption with "&" before its access key
   void setUp(const char* caption, const char* icon, const Box& box, int tabIndex);
 };
 
@@ -146,12 +147,11 @@ class CommonDialog : public Control {
   Property<std::string> FileName{*this, "FileName"};
   /// "Description|*.a;*.b", pairs joined by |.
   Property<std::string> Filter{*this, "Filter"};
-  /// Asks for a file. True when one was chosen, then in FileName.
+  /// Asks for a file. True if one was chosen; it is then in FileName.
   bool ShowOpen();
 };
 
-/// Controls of one kind and one name, told apart by an index that says which field each is. The
-/// indexes may have gaps.
+/// Controls of one kind and one name, identified by an index. The indexes may have gaps.
 template <class T>
 class ControlArray {
  public:

@@ -14,7 +14,7 @@ namespace korvantes::screen {
 struct Regional;
 
 /// A grid bound to a recordset: its rows are the recordset's rows, its current row is the
-/// recordset's current row. It cannot be typed into.
+/// recordset's current row. It is read-only.
 class DataGrid : public Control {
  public:
   explicit DataGrid(Form& form, std::string name, std::optional<int> index = std::nullopt);
@@ -29,7 +29,7 @@ class DataGrid : public Control {
   };
 
   /// Binds a recordset: one column per field, in field order, with the field's name as caption and
-  /// default properties, whatever was set up before. A default-made recordset unbinds.
+  /// default properties, discarding any earlier set-up. A default-constructed recordset unbinds.
   void DataSource(ado::Recordset source);
   const ado::Recordset& DataSource() const { return source_; }
 
@@ -40,7 +40,7 @@ class DataGrid : public Control {
   void columnsChanged();
 
   std::size_t RowCount() const;
-  /// Row by place, from 0; nothing without a current row.
+  /// Row by position from 0; empty without a current row.
   std::optional<std::size_t> currentRow() const;
   /// Text of a cell: the value under the column's format; Null is an empty text.
   std::string cellText(std::size_t row, std::size_t column, const Regional& regional) const;
@@ -50,7 +50,7 @@ class DataGrid : public Control {
 
  private:
   friend class UserInput;
-  /// Tells the face when the recordset's current row is another one than the face was told last.
+  /// Tells the face if the recordset's current row has changed since it was last told.
   void noticeMove();
 
   ado::Recordset source_;

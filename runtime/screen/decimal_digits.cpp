@@ -52,7 +52,7 @@ void DecimalDigits::round(int places) {
   const bool up = kept >= 0 && digits[static_cast<std::size_t>(kept)] >= '5';
   digits.resize(static_cast<std::size_t>(std::max(kept, 0)));
   if (up) {
-    // 9.99 becomes 10.0: the nines fall away as zeros at the end.
+    // 9.99 becomes 10.0: the nines become trailing zeros, which are dropped.
     while (!digits.empty() && digits.back() == '9') digits.pop_back();
     if (digits.empty()) {
       digits = "1";

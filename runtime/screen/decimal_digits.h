@@ -17,13 +17,13 @@ struct DecimalDigits {
   static DecimalDigits of(const ado::Decimal& number);
   static DecimalDigits of(std::int64_t number);
 
-  /// Rounds half away from zero to so many decimals.
+  /// Rounds half away from zero to the given number of decimals.
   void round(int places);
-  /// Decimals that it has.
+  /// Number of decimals.
   int places() const;
   /// Digits before the point, without leading zeros: empty below 1.
   std::string whole() const;
-  /// Digits behind the point, so many of them.
+  /// The given number of digits after the point.
   std::string fraction(int count) const;
 
  private:

@@ -10,7 +10,7 @@ namespace korvantes::screen {
 
 namespace {
 
-/// The one place of the current desktop.
+/// Holds the current desktop.
 Desktop*& currentDesktop() {
   static Desktop* current = nullptr;
   return current;

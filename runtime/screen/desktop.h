@@ -53,8 +53,8 @@ struct ProgramVersion {
   int major = 0, minor = 0, revision = 0;
 };
 
-/// The one place where screens meet the machine: windows, dialogs, keys, clock, pictures. One is
-/// current at a time; a host makes it so before it shows anything.
+/// Everything that screens need from the machine: windows, dialogs, keys, clock, pictures. One is
+/// current at a time; a host makes one current before it shows anything.
 class Desktop {
  public:
   Desktop();
@@ -62,23 +62,23 @@ class Desktop {
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
 
-  /// Throws std::logic_error when there is none.
+  /// Throws std::logic_error if there is none.
   static Desktop& current();
-  /// The one before, or nullptr; nullptr takes the desktop away.
+  /// Returns the previous one, or nullptr; nullptr leaves no current desktop.
   static Desktop* makeCurrent(Desktop* desktop);
 
   /// Shows a loaded form and returns when it has been unloaded.
   virtual void showModal(Form& form) = 0;
   virtual Answer messageBox(const MessageBox& box) = 0;
-  /// The chosen row, from 0; nothing when the dialog was left.
+  /// The chosen row, from 0; empty if the user cancels.
   virtual std::optional<std::size_t> chooseFromList(const ListDialog& dialog) = 0;
   virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
-  /// Queues keystrokes for the control that has the focus when the running event has ended.
+  /// Queues keystrokes for the control that has the focus once the running event has ended.
   /// Characters 9, 13 and 27 are Tab, Enter and Escape.
   virtual void sendKeys(std::string_view keys) = 0;
   /// Lets queued events run.
   virtual void processEvents() = 0;
-  /// Reads a picture file. Throws ado::Error with a Spanish sentence for one that is none.
+  /// Reads a picture file. Throws ado::Error with a Spanish sentence if it is not one.
   virtual Picture loadPicture(const std::string& path) = 0;
   /// Writes a picture as a bmp file. Throws ado::Error for the empty picture or a bad path.
   virtual void savePicture(const Picture& picture, const std::string& path) = 0;
@@ -92,11 +92,11 @@ class Desktop {
   void regional(Regional settings) { regional_ = std::move(settings); }
   const ProgramVersion& version() const { return version_; }
   void version(ProgramVersion value) { version_ = value; }
-  /// Title of message boxes that name none.
+  /// Title of message boxes that do not set one.
   static constexpr std::string_view kDefaultTitle = "KORVANTES";
 
-  /// The one T that belongs to this desktop, made on first use. What it means is up to whoever asks
-  /// for it: a layer above keeps what must live as long as the desktop here.
+  /// The T that belongs to this desktop, made on first use: a layer above can keep here what must
+  /// live as long as the desktop.
   template <class T>
   T& attached() {
     std::shared_ptr<void>& place = attached_[typeid(T)];

@@ -12,14 +12,14 @@
 
 namespace korvantes::screen {
 
-/// What a face hears of the form that it shows.
+/// Notifies a face of changes to the form that it shows.
 class FormObserver {
  public:
   virtual ~FormObserver() = default;
   /// A property of the form (control nullptr) or of a control changed.
   virtual void propertyChanged(Control* control, const PropertyBase& property) = 0;
   /// Rows were added, removed, ticked or sorted (list), or the recordset or columns were replaced
-  /// (grid), or its current row moved, or the entries changed (combo box). Read the rows when the
+  /// (grid), or its current row moved, or the entries changed (combo box). Read the rows after the
   /// running event has ended: a row just added is not filled yet.
   virtual void rowsChanged(Control& control) = 0;
   virtual void activeControlChanged() = 0;
@@ -45,7 +45,7 @@ class Form : public PropertyOwner {
   Property<bool> KeyPreview{*this, "KeyPreview", false};
 
   /// Loads the form if needed and shows it through the current desktop. Modal (1): returns when the
-  /// form has been unloaded. An exception of Form_Load leaves the form unloaded and travels on.
+  /// form has been unloaded. An exception of Form_Load leaves the form unloaded and propagates.
   void Show(int modal = 1);
   /// Runs Form_Unload and closes. Allowed inside an event: the form object lives on until Show has
   /// returned. A second call does nothing.
@@ -54,12 +54,12 @@ class Form : public PropertyOwner {
 
   /// All controls, in the order in which they were made (from back to front).
   const std::vector<Control*>& controls() const { return controls_; }
-  /// "cmdGrabar", "Text1(10)", without regard to case; nullptr when there is none.
+  /// "cmdGrabar", "Text1(10)", ignoring case; nullptr if there is none.
   Control* findControl(std::string_view identity) const;
-  /// nullptr when no control has the focus.
+  /// nullptr if no control has the focus.
   Control* ActiveControl() const { return active_; }
-  /// The tab stop behind a control in tab order, or before it; from nullptr the first (the last).
-  /// nullptr when there is none.
+  /// The tab stop after a control in tab order, or before it; from nullptr the first (the last).
+  /// nullptr if there is none.
   Control* nextTabStop(const Control* from, bool backward = false) const;
 
   /// One observer at a time; nullptr for none.
@@ -80,7 +80,7 @@ class Form : public PropertyOwner {
 
   std::string name_;
   bool loaded_ = false;
-  bool showing_ = false;  ///< the first control got its focus
+  bool showing_ = false;  ///< the first control has received the focus
   std::vector<Control*> controls_;
   Control* active_ = nullptr;
   Control* wanted_ = nullptr;  ///< SetFocus inside a handler

@@ -7,10 +7,10 @@ namespace korvantes::screen {
 
 namespace {
 
-/// A mask of numbers, taken apart.
+/// The parts of a mask for numbers.
 struct NumberMask {
   std::string_view before, behind;  ///< literal text
-  int leastWhole = 0;               ///< digits at least, before the point
+  int leastWhole = 0;               ///< minimum number of digits before the point
   int leastPlaces = 0, mostPlaces = 0;
   bool grouped = false;
 
@@ -53,7 +53,7 @@ std::string formatNumber(DecimalDigits number, std::string_view maskText,
   if (mask.grouped) whole = withSeparators(whole, regional.thousandsSeparator);
   std::string text = number.negative ? "-" : "";
   text.append(mask.before).append(whole);
-  // A mask such as "0.##" leaves no separator without decimals behind it.
+  // A mask such as "0.##" leaves no separator if no decimals follow it.
   const int places = std::max(number.places(), mask.leastPlaces);
   if (places > 0) text += regional.decimalSeparator + number.fraction(places);
   return text.append(mask.behind);
@@ -64,7 +64,7 @@ std::string padded(int number, std::size_t digits) {
   return text.size() < digits ? std::string(digits - text.size(), '0') + text : text;
 }
 
-/// Runs of d, m and y become the parts of the date, all else stands as it is.
+/// Runs of d, m and y become the parts of the date, everything else is copied.
 std::string formatDate(const ado::Date& date, std::string_view mask) {
   std::string text;
   while (!mask.empty()) {

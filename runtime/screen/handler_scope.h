@@ -2,7 +2,7 @@
 
 namespace korvantes::screen {
 
-/// While one exists, an event handler of the form runs.
+/// Exists while an event handler of the form runs.
 class HandlerScope {
  public:
   explicit HandlerScope(int& depth) : depth_(depth) { ++depth_; }

@@ -2,7 +2,7 @@
 
 namespace korvantes::screen {
 
-/// Upper case of the letters on a western European keyboard; any other character as it is.
+/// Upper case of the letters on a western European keyboard; any other character unchanged.
 constexpr char32_t upperCase(char32_t character) {
   const bool latin1 = character >= 0xE0 && character <= 0xFE && character != 0xF7;
   return (character >= U'a' && character <= U'z') || latin1 ? character - 32 : character;

@@ -63,7 +63,7 @@ void ListView::sortIfNeeded() const {
   std::iota(order_.begin(), order_.end(), std::size_t{0});
   orderStale_ = false;
   if (!Sorted()) return;
-  // A key that is no column leaves all rows equal.
+  // With a key that is not a column, all rows are equal.
   const auto column = static_cast<std::size_t>(SortKey());
   const bool descending = SortOrder() == static_cast<int>(Order::Descending);
   std::stable_sort(order_.begin(), order_.end(), [&](std::size_t a, std::size_t b) {

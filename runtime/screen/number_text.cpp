@@ -16,13 +16,13 @@ constexpr std::string_view kBlanks = " \t\r\n";
 
 using ado::isDigit;
 
-/// Reads a number from its front and rewrites it as std::from_chars takes it.
+/// Reads a number from the left and rewrites it in the form that std::from_chars expects.
 class NumberReader {
  public:
   NumberReader(std::string_view text, char decimal, char thousands)
       : rest_(text), decimal_(decimal), thousands_(thousands) {}
 
-  /// False when the text does not begin with a number.
+  /// False if the text does not begin with a number.
   bool read() {
     if (take("+-")) plain_ += taken_ == '-' ? "-" : "";
     const std::size_t wholeDigits = whole();
@@ -61,10 +61,10 @@ class NumberReader {
       plain_ += rest_.front();
     return count;
   }
-  /// Digits, or groups of three behind a first one of up to three.
+  /// Digits, or groups of three after a first one of up to three.
   std::size_t whole() {
     std::size_t count = digits();
-    // "0.125" is no grouped number but a slip in the separator.
+    // "0.125" is not a grouped number but a mistyped separator.
     if (count == 0 || rest_.empty() || plain_[plain_.size() - count] == '0') return count;
     while (groupFollows()) {
       if (count > 3 && !grouped_) break;
@@ -140,7 +140,7 @@ double CDbl(std::string_view text, const Regional& regional) {
 }
 
 int CLng(std::string_view text, const Regional& regional) {
-  // The usual rounding mode takes halves to the even neighbour.
+  // The default rounding mode rounds halves to even.
   const double number = std::nearbyint(CDbl(text, regional));
   if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max())
     throw ado::ConversionError("«" + std::string(text) + "» es un número demasiado grande");

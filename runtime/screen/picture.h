@@ -9,23 +9,24 @@
 namespace korvantes::screen {
 
 /// A picture, shared by its copies: the bytes of one image file and what a desktop found in it.
-/// The default-made picture is no picture.
+/// A default-constructed picture is empty.
 class Picture {
  public:
   Picture() = default;
-  /// `decoded` is what the desktop made of the file and shows, so that it need not do so twice.
+  /// `decoded` is the image that the desktop has decoded from the file and shows, kept so that it
+  /// need not decode it again.
   Picture(ado::Bytes file, int width, int height, std::any decoded = {})
       : data_(std::make_shared<const Data>(
             Data{std::move(file), width, height, std::move(decoded)})) {}
 
   bool empty() const { return !data_; }
-  /// Bytes of the image file. Only on a picture that is not empty, as all below.
+  /// Bytes of the image file. Only for a picture that is not empty, like everything below.
   const ado::Bytes& file() const { return data_->file; }
   int width() const { return data_->width; }
   int height() const { return data_->height; }
   const std::any& decoded() const { return data_->decoded; }
 
-  /// The same picture, not merely an equal one.
+  /// Whether they share one picture, not merely an equal one.
   friend bool operator==(const Picture& a, const Picture& b) { return a.data_ == b.data_; }
 
  private:

@@ -8,7 +8,7 @@ namespace korvantes::screen {
 
 namespace {
 
-/// Numbers in a file, in either order of bytes. Reading behind the end gives nothing.
+/// Numbers in a file, in either byte order. Empty past the end.
 class Reader {
  public:
   Reader(const ado::Bytes& file, bool bigEndian) : file_(file), bigEndian_(bigEndian) {}
@@ -28,7 +28,7 @@ class Reader {
   static std::optional<PictureSize> made(std::optional<std::uint32_t> width,
                                          std::optional<std::uint32_t> height) {
     if (!width || !height) return std::nullopt;
-    // A bmp written from top to bottom has a negative height.
+    // A bmp stored from top to bottom has a negative height.
     const auto rows = std::llabs(static_cast<std::int32_t>(*height));
     const auto columns = static_cast<std::int32_t>(*width);
     if (columns < 1 || rows < 1 || rows > INT32_MAX) return std::nullopt;
@@ -57,7 +57,7 @@ std::optional<PictureSize> jpgSize(const Reader& file) {
   for (std::size_t at = 2;;) {
     const auto mark = file.number(at, 2);
     const auto length = file.number(at + 2, 2);
-    if (mark == 0xFFFFU) {  // filling
+    if (mark == 0xFFFFU) {  // padding
       ++at;
       continue;
     }

@@ -7,7 +7,7 @@
 
 namespace korvantes::screen {
 
-/// Pixels of the largest picture that is taken: one larger might leave no memory for the rest.
+/// Pixels of the largest picture accepted: a larger one might leave no memory for the rest.
 constexpr std::int64_t kMostPixels = 20'000'000;
 
 struct PictureSize {
@@ -15,11 +15,11 @@ struct PictureSize {
   bool tooLarge() const { return std::int64_t{width} * height > kMostPixels; }
 };
 
-/// Size of the picture in a bmp, gif, jpg or tif file, from its first bytes; nothing for any other
+/// Size of the picture in a bmp, gif, jpg or tif file, from its first bytes; empty for any other
 /// file and for one cut off before its size.
 std::optional<PictureSize> pictureSize(const ado::Bytes& file);
 
-/// Why a file is refused, behind its name.
+/// Why a file is refused, to follow its name.
 constexpr const char* kNoPicture = "no es una imagen bmp, jpg, gif o tif";
 constexpr const char* kTooManyPixels = "tiene más de 20 millones de puntos";
 

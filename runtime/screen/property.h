@@ -1,5 +1,5 @@
-// outside/screen: the screen without a toolkit. Controls and forms are plain models; a face (a
-// window system, or the headless desktop) shows what they say and reports what the user did
+// runtime/screen: the screen without a toolkit. Controls and forms are plain models; a face (a
+// window system, or the headless desktop) shows their state and reports what the user did
 // through UserInput, which alone decides the order of events.
 #pragma once
 
@@ -54,11 +54,11 @@ class PropertyBase {
   std::string_view name_;
 };
 
-/// What has properties. Finds them by name, hears of their changes.
+/// Owner of properties: finds them by name and is told when they change.
 class PropertyOwner {
  public:
   virtual ~PropertyOwner() = default;
-  /// Without regard to case; nullptr when there is none.
+  /// Ignores case; nullptr if there is none.
   const PropertyBase* findProperty(std::string_view name) const;
   const std::vector<const PropertyBase*>& properties() const { return properties_; }
 
@@ -77,7 +77,7 @@ std::string printValue(const std::string& value);
 std::string printValue(const Font& value);
 std::string printValue(Alignment value);
 
-/// A property: `box.Text = "x"` sets it and tells its owner when the value is a new one;
+/// A property: `box.Text = "x"` sets it and tells its owner if the value is new;
 /// `box.Text()` reads it.
 template <class T>
 class Property : public PropertyBase {

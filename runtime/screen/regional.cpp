@@ -16,8 +16,8 @@ struct Settings {
   char decimal, thousands;
 };
 
-/// The first entry of a language also stands for the language alone. The Spanish of America writes
-/// the point in the north and in Peru, the comma in the south.
+/// The first entry of a language also applies to the language alone. American Spanish uses the
+/// point in the north and in Peru, the comma in the south.
 constexpr std::array kKnown{
     Settings{"es-ES", ',', '.'}, Settings{"ca-ES", ',', '.'}, Settings{"gl-ES", ',', '.'},
     Settings{"eu-ES", ',', '.'}, Settings{"pt-PT", ',', '.'}, Settings{"pt-BR", ',', '.'},
@@ -34,7 +34,7 @@ constexpr std::array kKnown{
 };
 
 const Settings* find(std::string_view name) {
-  // "es_ES.UTF-8@euro": what stands behind the territory says nothing of numbers.
+  // "es_ES.UTF-8@euro": what follows the territory does not affect numbers.
   std::string plain(name.substr(0, name.find_first_of(".@")));
   std::replace(plain.begin(), plain.end(), '_', '-');
   for (const Settings& known : kKnown) {

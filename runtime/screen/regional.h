@@ -11,11 +11,11 @@ struct Regional {
   char decimalSeparator = ',';
   char thousandsSeparator = '.';
 
-  /// "es-ES", "es_ES.UTF-8", "en-US", "de-DE" … Throws std::invalid_argument for a name that is not
-  /// known.
+  /// "es-ES", "es_ES.UTF-8", "en-US", "de-DE" … Throws std::invalid_argument for an
+  /// unknown name.
   static Regional named(std::string_view name);
-  /// The machine's (LC_ALL, LC_NUMERIC, LANG); Spanish where it has none (C, POSIX) or one not
-  /// known here.
+  /// The machine's (LC_ALL, LC_NUMERIC, LANG); Spanish if it has none (C, POSIX) or an
+  /// unknown one.
   static Regional ofMachine();
 };
 

@@ -4,14 +4,14 @@
 
 namespace korvantes::screen {
 
-/// The user's hands in one text box: characters at the caret, moves and deletions. The events run
-/// through the user's input; settling the focus is left to the caller.
+/// Edits one text box for the user: characters at the caret, moves and deletions. Events run
+/// through UserInput; settling the focus is left to the caller.
 class TextEditor {
  public:
   TextEditor(UserInput input, TextBox& box) : input_(input), box_(box) {}
 
   void key(const Key& key);
-  /// One character through the key filter, in place of the selection.
+  /// Puts one character through the key filter, in place of the selection.
   void type(char32_t character);
   /// As typed character by character, with one Change at the end.
   void paste(std::string_view text);

@@ -11,7 +11,7 @@ namespace korvantes::screen {
 
 namespace {
 
-/// Handlers that send the focus to and fro without end are cut off after this many moves.
+/// Handlers that pass the focus back and forth endlessly are cut off after this many moves.
 constexpr int kMostFocusMoves = 50;
 
 void report(const Form& form, const std::exception& problem) {
@@ -22,8 +22,8 @@ void report(const Form& form, const std::exception& problem) {
 
 }  // namespace
 
-/// Runs a handler; its own copy, as it may replace itself. False when the form is not open, before
-/// or after.
+/// Runs a copy of a handler, which may replace itself. False if the form is not open, before or
+/// after.
 bool UserInput::run(std::function<void()> handlerOfEvent) {
   const std::function<void()> handler = std::move(handlerOfEvent);
   if (!form_.loaded_) return false;
@@ -42,7 +42,7 @@ bool UserInput::event(const std::function<void()>& handler) {
   return open;
 }
 
-/// Takes what the handlers left to do once the outermost has ended.
+/// Carries out what the handlers have left to do once the outermost has ended.
 void UserInput::settle() {
   if (form_.handlerDepth_ > 0) return;
   for (int moves = 0; form_.loaded_ && moves < kMostFocusMoves; ++moves) {
@@ -71,8 +71,8 @@ void UserInput::focusLost(Control& old) {
   if (run(old.LostFocus) && form_.observer_ != nullptr) form_.observer_->activeControlChanged();
 }
 
-/// Moves the focus, by way of the old control's LostFocus, which may send it elsewhere. True when
-/// the target has it before anything else was settled.
+/// Moves the focus after the old control's LostFocus, which may send it elsewhere. True if the
+/// target has it before anything else is settled.
 bool UserInput::giveFocus(Control& target) {
   if (!form_.loaded_ || !target.canTakeFocus()) return false;
   if (form_.active_ == &target) return true;
@@ -86,7 +86,7 @@ bool UserInput::giveFocus(Control& target) {
       if (!run(old->LostFocus)) return false;
     }
     Control* const redirected = std::exchange(form_.wanted_, wantedBefore);
-    // Input that came in between may have put the focus somewhere already.
+    // Input that arrived meanwhile may have put the focus somewhere already.
     if (form_.active_ != nullptr) return form_.active_ == &target;
     if (redirected != nullptr && redirected->canTakeFocus())
       aim = redirected;
@@ -118,7 +118,7 @@ bool UserInput::moveFocus(Control& control) {
   return form_.loaded_ && form_.active_ == &control;
 }
 
-/// What a click does before the control changes. False when the click falls away.
+/// What a click does before the control changes. False if the click is dropped.
 bool UserInput::focusFor(Control& control) {
   if (!form_.loaded_ || !control.usable()) return false;
   if (control.canTakeFocus() && !moveFocus(control)) return false;
@@ -136,7 +136,7 @@ bool UserInput::click(Control& control) {
     case Control::Kind::OptionButton:
       event([&] { static_cast<OptionButton&>(control).Value = true; });
       break;
-    case Control::Kind::ComboBox:  // its Click tells of a change of the entry
+    case Control::Kind::ComboBox:  // its Click reports a change of the entry
       break;
     default:
       event(control.Click);
@@ -164,7 +164,7 @@ bool UserInput::clickColumn(ListView& list, int column) {
     const bool onRow = cursor >= 0 && static_cast<std::size_t>(cursor) < list.Count();
     const auto* item = onRow ? &list.item(static_cast<std::size_t>(cursor)) : nullptr;
     if (list.ColumnClick) list.ColumnClick(column);
-    // The cursor stays on its row, wherever that was sorted to.
+    // The cursor stays on its row, wherever sorting has moved it.
     if (item == nullptr) return;
     if (const auto place = list.placeOf(*item)) list.SelectedRow = static_cast<int>(*place);
   });
@@ -219,7 +219,7 @@ bool UserInput::pressCellButton(DataGrid& grid, int column) {
 }
 
 void UserInput::close() {
-  // A form that is disabled while it works stays; one that a failure left disabled can be closed.
+  // A form disabled while it works stays open; one that a failure left disabled can be closed.
   if (!form_.Enabled() && form_.handlerDepth_ > 0) return;
   event([&] { form_.Unload(); });
 }

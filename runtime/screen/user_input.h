@@ -14,8 +14,8 @@ namespace korvantes::screen {
 /// events follow, and in which order:
 ///
 /// - moving the focus: LostFocus of the old control, then GotFocus of the new one. A SetFocus
-///   inside LostFocus is honoured when that handler has ended, and the control first aimed at never
-///   gets the focus; what was to follow there (the click on a button) falls away.
+///   inside LostFocus is carried out when that handler has ended, and the original target never
+///   gets the focus; what was to follow there (the click on a button) is dropped.
 /// - a key press in a text box: KeyPress, then the text, then Change. Enter on a button clicks it.
 ///   Tab moves the focus, with Shift backward; Alt and a letter is an access key. Arrows move
 ///   within lists, grids and groups of option buttons, Space ticks the row with the cursor.
@@ -25,13 +25,13 @@ namespace korvantes::screen {
 /// - a click: the focus moves first, then the control changes, then Click.
 ///
 /// When the outermost handler has ended, a SetFocus made in it is carried out; then, if the control
-/// with the focus cannot hold it any longer (hidden, disabled), the focus moves on to the next tab
-/// stop. While LostFocus runs no control has the focus: a key that comes in between reaches the
-/// form alone.
+/// with the focus can no longer hold it (hidden, disabled), the focus moves on to the next tab
+/// stop. While LostFocus runs no control has the focus: a key that arrives meanwhile reaches only
+/// the form.
 ///
-/// An exception that leaves a handler becomes a critical message box with its words, under the
+/// An exception that leaves a handler becomes a critical message box with its text, under the
 /// form's caption; the form stays usable. Nothing happens on a control that is not usable: the
-/// functions then give False. A form unloaded inside a handler takes no further events.
+/// functions then return False. A form unloaded inside a handler gets no further events.
 class UserInput {
  public:
   explicit UserInput(Form& form) : form_(form) {}

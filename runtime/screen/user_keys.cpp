@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kRowsOfAPage = 10;
 
-/// Where a key leads in a list of `count` rows; nothing for a key that does not move, and where
-/// there are no rows. A cursor of -1 is before the first row.
+/// Where a key leads in a list of `count` rows; empty for a key that does not move, and if there
+/// are no rows. A cursor of -1 is before the first row.
 std::optional<int> rowAfter(int code, int cursor, int count) {
   if (count == 0) return std::nullopt;
   const auto within = [&](int row) { return std::clamp(row, 0, count - 1); };
@@ -128,7 +128,7 @@ void UserInput::comboKey(ComboBox& combo, const Key& key) {
   } else if (edits && key.character >= U' ') {
     typeOver(combo, combo.Text() + ado::toUtf8(key.character));
   } else if (key.character > U' ') {
-    // The next entry that begins with the character, from the top again behind the last one.
+    // The next entry that begins with the character, from the top again after the last one.
     const int count = combo.ListCount();
     for (int step = 1; step <= count; ++step) {
       const int candidate = (combo.ListIndex() + step) % count;
@@ -159,7 +159,7 @@ void UserInput::gridKey(DataGrid& grid, const Key& key) {
     selectRow(grid, static_cast<std::size_t>(*row));
 }
 
-/// Arrows select the neighbour in the group, around its ends.
+/// Arrows select the neighbour in the group and wrap around.
 void UserInput::optionKey(OptionButton& option, const Key& key) {
   const bool forward = key.code == key::Down || key.code == key::Right;
   if (!forward && key.code != key::Up && key.code != key::Left) return;
@@ -221,7 +221,7 @@ bool UserInput::accessKey(char32_t letter) {
     if (caption == nullptr || !control->usable()) continue;
     if (accessKeyOf(*caption) != upperCase(letter)) continue;
     if (control->canTakeFocus()) return click(*control);
-    // A label or frame stands for the field behind it.
+    // A label or frame leads to the field after it.
     Control* field = form_.nextTabStop(control);
     return field != nullptr && moveFocus(*field);
   }

@@ -28,7 +28,7 @@ using desktop::RowTable;
 
 namespace {
 
-/// Where the caret stands, or the end of the text: a click there changes no selection.
+/// The position of the caret, or the end of the text: a click there does not change the selection.
 QPoint caretPlace(const QLineEdit& field, const screen::TextBox& box) {
   const bool atEnd =
       box.SelStart() == static_cast<int>(ado::characterCount(box.Text())) || !field.hasFocus();
@@ -44,7 +44,7 @@ FormWindow& WindowUser::window() const {
   return *window;
 }
 
-/// What the toolkit kept back is for the script.
+/// Exceptions kept away from Qt propagate to the script.
 void WindowUser::done() {
   stack_.rethrow();
 }
@@ -83,7 +83,7 @@ void WindowUser::moveFocus(screen::Control& control) {
   User::moveFocus(control);
 }
 
-/// The release goes to the window that is on top by then.
+/// The release goes to the window that is on top after the press.
 void WindowUser::strike(QWidget& window, const screen::Key& key) {
   sendPress(window, key);
   if (QWidget* top = stack_.top()) sendRelease(*top, key);
@@ -173,7 +173,7 @@ void WindowUser::selectEntry(screen::ComboBox& combo, int entry) {
   if (!canBeHit(widget, widget.rect().center())) return User::selectEntry(combo, entry);
   sendClick(widget, widget.rect().center());
   done();
-  // The list opens only where the focus has come.
+  // The list only opens if the combo box has got the focus.
   QAbstractItemView& view = *widget.view();
   if (!view.isVisible()) return;
   view.setCurrentIndex(view.model()->index(entry, 0));

@@ -7,6 +7,7 @@
 
 #include "desktop/application.h"
 #include "host/temporary_folder.h"
+#include "scripts/windows/window_desktop.h"
 
 namespace korvantes::host {
 namespace {
@@ -22,7 +23,7 @@ class DesktopWindowTest : public testing::Test {
     screen::Desktop::makeCurrent(&desktop_);
     desktop_.onMessage = [this](const screen::MessageBox& box) {
       messages_.push_back(box.text);
-      return desktop::QtDesktop::Reply<screen::Answer>{box.defaultAnswer()};
+      return box.defaultAnswer();
     };
     desktop_.onClosed = [this](const screen::Form& form) { closed_.push_back(form.name()); };
     window_.show();
@@ -39,7 +40,7 @@ class DesktopWindowTest : public testing::Test {
   }
 
   TemporaryFolder folder_;
-  desktop::QtDesktop desktop_;
+  scripts::WindowDesktop desktop_;
   DesktopWindow window_{desktop_};
   std::vector<std::string> messages_, closed_;
 };

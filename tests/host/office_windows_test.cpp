@@ -9,9 +9,9 @@
 
 #include "desktop/look.h"
 #include "desktop/print_preview.h"
-#include "desktop/robot.h"
 #include "host/desktop_base.h"
 #include "host/temporary_folder.h"
+#include "scripts/windows/window_desktop.h"
 
 namespace korvantes::host {
 namespace {
@@ -46,8 +46,7 @@ class OfficeWindows : public testing::Test {
     base_.makeSample(path("muestra.db").string());
     desktop_.onMessage = [this](const screen::MessageBox& box) {
       messages_.push_back(box.text);
-      return desktop::QtDesktop::Reply<screen::Answer>{box.yesNo() ? screen::Answer::Yes
-                                                                   : screen::Answer::Ok};
+      return box.yesNo() ? screen::Answer::Yes : screen::Answer::Ok;
     };
   }
   ~OfficeWindows() override { screen::Desktop::makeCurrent(nullptr); }
@@ -56,12 +55,10 @@ class OfficeWindows : public testing::Test {
   bool press(const char* button) {
     bool usable = false;
     desktop_.whileShown = [&](screen::Form& form) {
-      desktop::Robot robot(desktop_);
-      robot.click(*form.findControl("Check1(0)"));
-      robot.click(*form.findControl("cmdBuscar"));
-      robot.click(*form.findControl(button));
+      for (const char* each : {"Check1(0)", "cmdBuscar", button})
+        desktop_.user().click(*form.findControl(each));
       usable = form.Enabled();
-      robot.close();
+      desktop_.user().close();
     };
     base_.screens().at("informe")(std::nullopt);
     return usable;
@@ -69,7 +66,7 @@ class OfficeWindows : public testing::Test {
   std::filesystem::path path(const char* name) const { return folder_.path() / name; }
 
   TemporaryFolder folder_;
-  desktop::QtDesktop desktop_;
+  scripts::WindowDesktop desktop_;
   DesktopBase base_;
   std::vector<std::string> messages_;
 };
