@@ -39,8 +39,8 @@ TEST(CommandLine, RefusesWhatItDoesNotKnow) {
   EXPECT_EQ(failureOf({"--bas", "x"}), "no se conoce la opción «--bas»; véase --ayuda");
   EXPECT_EQ(failureOf({"--base"}), "--base: falta el valor");
   EXPECT_EQ(failureOf({"--salida", "", "crear"}), "--salida: falta la carpeta");
-  EXPECT_EQ(failureOf({"--hoy", "31/02/2026"}), "--hoy: «31/02/2026» no es una fecha dd/mm/aaaa");
-  EXPECT_EQ(failureOf({"--hoy", "2026-02-01"}), "--hoy: «2026-02-01» no es una fecha dd/mm/aaaa");
+  for (const std::string date : {"31/02/2026", "2026-02-01"})
+    EXPECT_EQ(failureOf({"--hoy", date}), "--hoy: «" + date + "» no es una fecha dd/mm/aaaa");
   EXPECT_EQ(failureOf({"--regional", "xx-YY"}),
             "--regional: no se conocen los ajustes regionales «xx-YY»");
 }

@@ -1,11 +1,17 @@
 #include "host/desktop_window.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
 #include <QTimer>
 #include <gmock/gmock.h>
 
 #include "desktop/application.h"
+#include "desktop/look.h"
+#include "desktop/print_preview.h"
+#include "host/office_windows.h"
 #include "host/temporary_folder.h"
 #include "scripts/windows/window_desktop.h"
 
@@ -16,21 +22,54 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-/// The main window, without a user in front of its dialogs.
+/// Acts on a window of that type as soon as one is open.
+template <class Window>
+void whenOpen(std::function<void(Window&)> act) {
+  QTimer::singleShot(1, [act] {
+    for (QWidget* each : QApplication::topLevelWidgets())
+      if (auto* window = dynamic_cast<Window*>(each); window != nullptr && window->isVisible())
+        return act(*window);
+    whenOpen<Window>(act);
+  });
+}
+
+void saveAs(const std::string& file) {
+  whenOpen<QFileDialog>([file](QFileDialog& dialog) {
+    dialog.selectFile(desktop::toQt(file));
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+}
+
+/// The main window, with a user who answers Yes and Aceptar.
 class DesktopWindowTest : public testing::Test {
  protected:
   DesktopWindowTest() {
     screen::Desktop::makeCurrent(&desktop_);
     desktop_.onMessage = [this](const screen::MessageBox& box) {
       messages_.push_back(box.text);
-      return box.defaultAnswer();
+      return box.yesNo() ? screen::Answer::Yes : screen::Answer::Ok;
     };
     desktop_.onClosed = [this](const screen::Form& form) { closed_.push_back(form.name()); };
+    offerDocumentsOnWindows(desktop_);
     window_.show();
   }
   ~DesktopWindowTest() override { screen::Desktop::makeCurrent(nullptr); }
 
   std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  /// Presses a button of the report screen after a search, and gives back whether the screen takes
+  /// input afterwards.
+  bool press(const char* button) {
+    bool usable = false;
+    desktop_.whileShown = [&](screen::Form& form) {
+      for (const char* each : {"Check1(0)", "cmdBuscar", button})
+        desktop_.user().click(*form.findControl(each));
+      usable = form.Enabled();
+      desktop_.user().close();
+    };
+    for (const DesktopEntry& each : kDesktopEntries)
+      if (each.screen == std::string_view("informe")) window_.openScreen(each);
+    return usable;
+  }
   QPushButton& entry() { return *window_.findChild<EntryButton*>(); }
   std::string cardText() const {
     std::string text;
@@ -97,6 +136,38 @@ TEST_F(DesktopWindowTest, ClosingItWhileAScreenIsOpenEndsTheProgramWithoutAsking
   EXPECT_EQ(openForms, 1U);
   EXPECT_THAT(closed_, ElementsAre("frmNewLiquidAgentes"));
   EXPECT_THAT(messages_, IsEmpty());
+}
+
+TEST_F(DesktopWindowTest, ASpreadsheetAsksWhereToGoAndOffersToOpen) {
+  window_.makeSample(path("muestra.db"));
+  saveAs(path("hoja.xlsx"));
+  EXPECT_TRUE(press("cmdExcel"));
+  EXPECT_TRUE(std::filesystem::exists(path("hoja.xlsx")));
+  EXPECT_THAT(messages_,
+              ElementsAre(HasSubstr(path("hoja.xlsx")), HasSubstr("No se ha podido abrir")));
+  messages_.clear();
+  whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+  EXPECT_TRUE(press("cmdExcel"));
+  EXPECT_THAT(messages_, ElementsAre());
+  saveAs(path("no/hay/hoja.xlsx"));
+  EXPECT_TRUE(press("cmdExcel"));
+  EXPECT_EQ(messages_.size(), 1U);
+}
+
+TEST_F(DesktopWindowTest, AReportComesUpInAPreviewThatSaves) {
+  window_.makeSample(path("muestra.db"));
+  whenOpen<desktop::PrintPreview>([&](desktop::PrintPreview& preview) {
+    EXPECT_GT(preview.findChild<QPrintPreviewWidget*>()->pageCount(), 0);
+    for (const char* name : {"no/hay/informe.pdf", "informe.pdf"}) {
+      saveAs(path(name));
+      for (QPushButton* each : preview.findChildren<QPushButton*>())
+        if (each->text().contains("PDF")) each->click();
+    }
+    preview.reject();
+  });
+  EXPECT_TRUE(press("cmdEmision"));
+  EXPECT_TRUE(std::filesystem::exists(path("informe.pdf")));
+  EXPECT_EQ(messages_.size(), 1U);
 }
 
 TEST_F(DesktopWindowTest, TellsItsVersion) {

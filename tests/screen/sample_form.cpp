@@ -93,8 +93,8 @@ void SampleForm::watch(Control& control) {
 ado::Recordset sampleRows(int count) {
   ado::Recordset rows;
   rows.Fields().Append("Id", ado::FieldType::Integer);
-  rows.Fields().Append("Nombre", ado::FieldType::VarChar, 40);
-  rows.Fields().Append("Fecha", ado::FieldType::VarChar, 10);
+  for (const char* name : {"Nombre", "Fecha"})
+    rows.Fields().Append(name, ado::FieldType::VarChar, 40);
   rows.Open();
   for (int i = 1; i <= count; ++i) {
     rows.AddNew();

@@ -29,7 +29,7 @@ class Typing : public OnStage {
 TEST_F(Typing, EditsAtTheCaretAsATextFieldDoes) {
   const struct {
     const char *text, *strokes, *result;
-  } cases[] = {{"ab", "c", "abc|"},
+  } cases[] = {{"ab", "c € Ü ; Decimal", "abc€Ü;|"},
                {"ab", "Izquierda ñ", "añ|b"},
                {"ab", "Inicio c", "c|ab"},
                {"añb", "Izquierda Retroceso", "a|b"},

@@ -1,6 +1,8 @@
+// Keys and focus between the toolkit and the model.
 #include <QKeyEvent>
 #include <QWindow>
 
+#include "desktop/keys.h"
 #include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
@@ -88,6 +90,28 @@ TEST_F(Focus, EndOfTheProgramUnloadsTheFormsThatAreOpen) {
   QTimer::singleShot(0, [&] { form.Show(); });
   QApplication::exec();
   EXPECT_EQ(closed, "inner Muestra ");
+}
+
+TEST(KeysOfTheToolkit, OfOtherKeyboardsTypeTheirCharacter) {
+  const auto altGr = Qt::AltModifier | Qt::ControlModifier;
+  const struct {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    const char* text;
+    int code;
+    char32_t character;
+  } cases[] = {{Qt::Key_At, altGr, "@", screen::key::Packet, U'@'},
+               {Qt::Key_V, Qt::ControlModifier, "\x16", 'V', 0},
+               {Qt::Key_Enter, Qt::KeypadModifier, "\r", screen::key::Enter, 0},
+               {Qt::Key_Comma, Qt::KeypadModifier, ",", screen::key::KeypadDecimal, U','},
+               {Qt::Key_5, Qt::KeypadModifier, "5", '5', U'5'},
+               {Qt::Key_Delete, Qt::NoModifier, "\x7f", screen::key::Delete, 0},
+               {Qt::Key_VolumeUp, Qt::NoModifier, "", 0, 0}};
+  for (const auto& each : cases) {
+    const auto key = keyOf(QKeyEvent(QEvent::KeyPress, each.key, each.modifiers, each.text));
+    EXPECT_EQ(key.code, each.code);
+    EXPECT_EQ(key.character, each.character) << each.code;
+  }
 }
 
 }  // namespace korvantes::desktop
