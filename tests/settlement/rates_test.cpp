@@ -11,19 +11,17 @@ TEST(SettlementRates, AreThoseOfTheAgentsRegimeOnTheSettlementsDay) {
     int row;  ///< of the table of rates, as stored
   };
   const Case cases[] = {
-      {"5", "", "21,00", "19,00", 0},
-      {"5", "01072026", "21,00", "19,00", 2},
-      {"5", "30062026", "18,00", "15,00", 1},
-      {"5", "31121994", "0", "0", 1},
+      {"5", "", "21,00", "19,00", 0},         {"5", "01072026", "21,00", "19,00", 2},
+      {"5", "30062026", "18,00", "15,00", 1}, {"5", "31121994", "0", "0", 1},
       {"6", "24112026", "10,00", "0,00", 4},  // no regime counts as the first
       {"7", "24112026", "0", "0", 1},         // a regime without rates
   };
   for (const Case& each : cases) {
     SCOPED_TRACE(std::string(each.agent) + " on " + each.day);
     World world;
-    world.sqlAll(std::vector<std::string>{
-        "INSERT INTO Cav VALUES (6, 'A', 19, 'x', 0, 0, 1, 6, 2, Null), "
-        "(7, 'A', 20, 'x', 0, 0, 1, 7, 2, Null)"});
+    world.sqlAll(
+        std::vector<std::string>{"INSERT INTO Cav VALUES (6, 'A', 19, 'x', 0, 0, 1, 6, 2, Null), "
+                                 "(7, 'A', 20, 'x', 0, 0, 1, 7, 2, Null)"});
     world.show([&](Screen& screen) {
       screen.search(each.agent, false, false);
       screen.type(2, each.day);
