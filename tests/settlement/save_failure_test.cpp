@@ -97,7 +97,7 @@ TEST(SettlementSaveFailure, ARollbackIsTriedTwiceAndDoesNotHideTheFirstError) {
   }
 }
 
-TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
+TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledOrDeletedIsNotPaid) {
   World world;
   world.show([&](Screen& screen) {
     screen.makeOut({1, 3});
@@ -117,24 +117,21 @@ TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
     EXPECT_EQ(world.stored(), before);
     EXPECT_EQ(screen.contents(), entered);
 
-    // Without that note the rest can be saved.
+    // A note that another user has deleted is not settled either.
     screen.tick(screen.rowOf(3), false);
+    world.sql("delete from Cav where Cav_Id = 1");
+    screen.click("cmdGrabar");
+    EXPECT_EQ(world.messages.back(),
+              "[16] KORVANTES | Error actualizando facturas liquidadas:\r\n"
+              "El albarán A/15 ya no existe.");
+    EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
+
+    // Without those notes the rest can be saved.
+    screen.tick(screen.rowOf(1), false);
+    screen.tick(screen.rowOf(4));
     screen.click("cmdGrabar");
     EXPECT_THAT(world.messages.back(), StartsWith("[64]"));
   });
-}
-
-TEST(SettlementSaveFailure, ANoteThatIsGoneIsNotSettled) {
-  World world;
-  world.show([&](Screen& screen) {
-    screen.makeOut({3});
-    world.sql("delete from Cav where Cav_Id = 3");
-    screen.click("cmdGrabar");
-  });
-  EXPECT_THAT(world.messages,
-              ElementsAre("[16] KORVANTES | Error actualizando facturas liquidadas:\r\n"
-                          "El albarán A/17 ya no existe."));
-  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
 }
 
 TEST(SettlementSaveFailure, ASettlementThatAnotherUserHasReplacedIsNotWrittenAgain) {
