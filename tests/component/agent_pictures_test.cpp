@@ -46,7 +46,7 @@ struct Stage : screen::HeadlessDesktop {
   }
 };
 
-/// A value of the environment until the end of a test.
+/// Sets a variable of the environment until the end of a test.
 class Environment {
  public:
   Environment(const char* name, const std::string& value) : name_(name) {
@@ -62,7 +62,7 @@ class Environment {
   std::optional<std::string> before_;
 };
 
-/// Lets another user in between fetching a row and changing it.
+/// Lets another user act between fetching a row and changing it.
 struct Link : FaultyConnection {
   using FaultyConnection::FaultyConnection;
   std::function<void()> meanwhile;
@@ -91,7 +91,7 @@ struct World {
     image.Picture = shown;
     mdoKORVANTES::msGuardaImagen(agent, image);
   }
-  /// What the agent's row shows after another one.
+  /// What the control shows for the agent, after another picture.
   screen::Picture shown(std::int32_t agent = kAgent) {
     image.Picture = picture(kGif, 450);
     mdoKORVANTES::msCargaImagen(agent, image);
