@@ -38,7 +38,7 @@ TEST(AgentsOpenCases, WithoutTheSharedDatabaseAgentsAreSeenAndNothingIsWrittenOv
   for (const char* table : {"vespara.dbo.PROV", "vespara.dbo.PAIS", "Vespara.dbo.situaciones"}) {
     World world;
     const auto before = world.stored();
-    world.connection->onStatement = [&](std::string_view statement) {
+    world.connection->onCall = [&](std::string_view statement) {
       if (statement.find(table) != std::string_view::npos) throw ado::Error(14, "sin conexión");
     };
     world.show([&](Screen& screen) {

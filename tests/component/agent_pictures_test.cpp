@@ -62,17 +62,6 @@ class Environment {
   std::optional<std::string> before_;
 };
 
-/// Lets another user act between fetching a row and changing it.
-struct Link : FaultyConnection {
-  using FaultyConnection::FaultyConnection;
-  std::function<void()> meanwhile;
-  ado::Recordset OpenForUpdate(std::string_view statement) override {
-    ado::Recordset row = FaultyConnection::OpenForUpdate(statement);
-    if (meanwhile) meanwhile();
-    return row;
-  }
-};
-
 /// An agent without a picture, and an image control to show one.
 struct World {
   World() : former(screen::Desktop::makeCurrent(&desktop)) {
@@ -90,6 +79,12 @@ struct World {
   void store(std::int32_t agent, const screen::Picture& shown) {
     image.Picture = shown;
     mdoKORVANTES::msGuardaImagen(agent, image);
+  }
+  /// Lets another user act between fetching a row and changing it.
+  void meanwhile(const std::function<void()>& other) {
+    connection->onCall = [other](std::string_view call) {
+      if (call == "Update") other();
+    };
   }
   /// What the control shows for the agent, after another picture.
   screen::Picture shown(std::int32_t agent = kAgent) {
@@ -114,7 +109,8 @@ struct World {
   support::TemporaryFolder place;
   Environment runtime{"XDG_RUNTIME_DIR", place.file("")};
   support::TemporaryDatabase database;
-  std::shared_ptr<Link> connection = std::make_shared<Link>(database.connection());
+  std::shared_ptr<FaultyConnection> connection =
+      std::make_shared<FaultyConnection>(database.connection());
   std::shared_ptr<KORVAN> component = KORVAN::Create();
   screen::Form form{"frmPrueba"};
   screen::Image image{form, "imgAgente"};
@@ -134,7 +130,7 @@ TEST_F(AgentPictures, ComeBackAsTheyWereStored) {
                                                "select AGE_IMG from AGE where AGE_ID= 99",
                                                "select * from AGE where AGE_ID= 7", "Update"));
   EXPECT_TRUE(shows(picture(kGif)));
-  connection->meanwhile = [this] { sql("UPDATE AGE SET AGE_NOM='Eva' WHERE AGE_ID=7"); };
+  meanwhile([this] { sql("UPDATE AGE SET AGE_NOM='Eva' WHERE AGE_ID=7"); });
   store(kAgent, picture(kBmp));
   EXPECT_TRUE(shows(picture(kBmp)));
   EXPECT_EQ(sql("SELECT AGE_NOM FROM AGE WHERE AGE_ID=7").Fields(0).Value().text(), "Eva");
@@ -192,7 +188,7 @@ TEST_F(AgentPictures, ThatCannotBeStoredLeaveTheOldOne) {
       {[&] { desktop.loadsNothing = true; }, kAgent, fresh, "[0] VRAL | El fichero no es valido"},
       {[] {}, kAgent, {}, "Error : \r\nNo hay ninguna imagen que guardar"},
       {[] {}, kNobody, fresh, "Error : \r\nNo hay ningún agente con el código 99"},
-      {[&] { connection->meanwhile = [this] { sql("DELETE FROM AGE WHERE AGE_ID=8"); }; }, 8, fresh,
+      {[&] { meanwhile([this] { sql("DELETE FROM AGE WHERE AGE_ID=8"); }); }, 8, fresh,
        "Error : \r\nEl registro ya no existe: otro usuario lo ha borrado"},
   };
   sql("INSERT INTO AGE (AGE_ID) VALUES (8)");
