@@ -5,7 +5,7 @@
 namespace korvantes::ado {
 namespace {
 
-TEST(DateTest, ReadsDaysThatExistFirstWithBlanksBehind) {
+TEST(DateTest, ReadsOnlyDaysThatExistAndAllowsTrailingBlanks) {
   EXPECT_EQ(Date::parseDayFirst("28/02/2026"), (Date{2026, 2, 28}));
   EXPECT_EQ(Date::parseDayFirst("1/2/2024 "), (Date{2024, 2, 1}));
   EXPECT_EQ(Date::parseDayFirst("29/02/2000"), (Date{2000, 2, 29}));

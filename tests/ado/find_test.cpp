@@ -19,32 +19,27 @@ Recordset people() {
 }
 
 TEST(FindTest, StopsAtTheFirstMatchFromTheCurrentRowOn) {
-  const struct {
-    const char* criterion;
-    int position;  ///< -1 for EOF
-  } cases[] = {{"Id = 1", 0},
-               {"id=3", 2},
-               {"Id = 3.5", -1},
-               {"[Id] >= 2", 1},
-               {"Nombre = 'MUÑOZ'", 0},
-               {"Nombre = 'o''neill'", 1},
-               {"Nombre > 'n'", 1},
-               {"Base = 10.5", 0},
-               {"Base <> 10.5", 2},
-               {"Base < 0", -1},
-               {"Alta > '31/01/2024'", 1},
-               {"Alta <= '31/1/2024 '", 0}};
+  const Bookmark none;
+  const std::pair<const char*, Bookmark> cases[] = {{"Id = 1", 0},
+                                                    {"id=3", 2},
+                                                    {"Id = 3.5", none},
+                                                    {"[Id] >= 2", 1},
+                                                    {"Nombre = 'MUÑOZ'", 0},
+                                                    {"Nombre = 'o''neill'", 1},
+                                                    {"Base = 10.5", 0},
+                                                    {"Base <> 10.5", 2},
+                                                    {"Base < 0", none},
+                                                    {"Alta > '31/01/2024'", 1},
+                                                    {"Alta <= '31/1/2024 '", 0}};
   for (const auto& [criterion, position] : cases) {
     Recordset rows = people();
     rows.Find(criterion);
-    const Bookmark expected =
-        position < 0 ? Bookmark() : Bookmark(static_cast<std::size_t>(position));
-    EXPECT_EQ(rows.position(), expected) << criterion;
-    EXPECT_EQ(rows.isEOF(), !expected) << criterion;
+    EXPECT_EQ(rows.position(), position) << criterion;
+    EXPECT_EQ(rows.isEOF(), !position) << criterion;
   }
 }
 
-TEST(FindTest, SkipsSearchesBackwardAndStartsFromARowIfThereIsOne) {
+TEST(FindTest, SkipsRowsSearchesBackwardsAndNeedsARowToStartFrom) {
   Recordset rows = people();
   rows.Find("Nombre = 'muñoz'", 1);
   EXPECT_EQ(rows.position(), 2U);

@@ -13,9 +13,8 @@ constexpr const char* kRows[] = {
     "(8, 'Eva Sanz', Null, Null, Null, Null, Null, Null)",
     "INSERT INTO Vespara.dbo.PROV VALUES (1, 'Araba'), (28, 'Madrid'), (99, 'Extranjero')",
     "INSERT INTO Vespara.dbo.situaciones VALUES (3, 0, 1, 'General'), (3, 0, 2, 'Inicio')",
-    "INSERT INTO Vespara.dbo.PAIS VALUES (1, 'País'), (2, 'País'), (7, 'País'), (20, 'País'), "
-    "(27, 'País'), (30, 'País'), (31, 'País'), (32, 'País'), (33, 'País'), (34, 'País'), "
-    "(36, 'País'), (39, 'País')",
+    "INSERT INTO Vespara.dbo.PAIS VALUES (1, 'País'), (2, ''), (7, ''), (20, ''), (27, ''), "
+    "(30, ''), (31, ''), (32, ''), (33, ''), (34, ''), (36, ''), (39, '')",
 };
 
 }  // namespace
@@ -60,10 +59,9 @@ std::vector<std::string> World::stored() {
   std::vector<std::string> result;
   const ado::Recordset rows = sql("select * from Age order by AGE_ID");
   for (std::size_t row = 0; row < rows.RecordCount(); ++row) {
-    std::string line;
+    result.emplace_back();
     for (std::size_t field = 0; field + 1 < rows.definitions().size(); ++field)
-      line += screen::CStr(rows.cell(row, field)) + "|";
-    result.push_back(line);
+      result.back() += screen::CStr(rows.cell(row, field)) + "|";
   }
   return result;
 }

@@ -33,7 +33,7 @@ class World : public support::ScreenWorld {
 
   /// Opens the screen, lets the user play, closes it.
   void show(const std::function<void(Screen&)>& user);
-  /// Every agent, a line each.
+  /// One line for each agent.
   std::vector<std::string> stored();
 };
 

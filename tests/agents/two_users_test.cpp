@@ -45,7 +45,7 @@ TEST(AgentsTwoUsers, AnAgentThatGoesBeforeTheListIsReadLeavesNoCursorOnIt) {
     World world;
     world.show([&](Screen& screen) {
       screen.row(0);
-      world.connection->onStatement = [&](std::string_view statement) {
+      world.connection->onCall = [&](std::string_view statement) {
         if (!statement.starts_with("Select AGE_ID,AGE_NOM")) return;
         world.sql(others ? "delete from Age where AGE_ID = 3" : "delete from Age");
       };
@@ -55,7 +55,7 @@ TEST(AgentsTwoUsers, AnAgentThatGoesBeforeTheListIsReadLeavesNoCursorOnIt) {
       if (others) {
         EXPECT_THAT(world.messages.back(), HasSubstr("El agente 3 ya no existe"));
       }
-      world.connection->onStatement = nullptr;
+      world.connection->onCall = nullptr;
       screen.type(0, "3");
       world.messages.clear();
       screen.press("Tab");
@@ -81,13 +81,13 @@ TEST(AgentsTwoUsers, TheSecondOfTwoWhoAddAtOnceGetsANumberOfItsOwnAtTheNextClick
     other.RollbackTrans();
 
     // The number is taken when the row arrives, as on a server that locks rows alone.
-    world.connection->onStatement = [&](std::string_view statement) {
+    world.connection->onCall = [&](std::string_view statement) {
       if (statement.starts_with("INSERT INTO AGE")) world.sql(kOtherAgent);
     };
     screen.click("cmdSalvar");
     EXPECT_THAT(world.messages.back(), StartsWith("[16]  | Error Añadiendo Agente\r\n"));
     EXPECT_EQ(screen.contents(), entered);
-    world.connection->onStatement = nullptr;
+    world.connection->onCall = nullptr;
     world.sql(kOtherAgent);
 
     screen.click("cmdSalvar");

@@ -1,5 +1,5 @@
-// Random documents through a real database file: the commission as the component gets it, against
-// the computation in exact_commission.h. tests/report holds the reports' statements against it.
+// Random documents through a real database file: the commission that the component gives, against
+// the computation in exact_commission.h. tests/report compares the reports' statements with it.
 //
 //   KORVANTES_PROPERTY_LINES   how many lines (600; 100000 takes a while)
 //   KORVANTES_PROPERTY_SEED    seed of another run
@@ -113,20 +113,16 @@ void store(ado::Connection& connection, const std::vector<Document>& documents) 
   for (std::size_t index = 0; index < documents.size(); ++index) {
     const Document& document = documents[index];
     const std::string key = std::to_string(index + 1);
-    const std::string discounts =
-        literal(document.discounts.first, 2) + ", " + literal(document.discounts.second, 2);
-    connection.Execute("INSERT INTO Cav (Cav_Id, Cav_Dto1, Cav_DTO2) VALUES (" + key + ", " +
-                       discounts + ")");
-    connection.Execute("INSERT INTO PedCa (PedCa_Id, PedCa_Dto1, PEDCA_DTO2) VALUES (" + key +
-                       ", " + discounts + ")");
+    const std::string header = " VALUES (" + key + ", " + literal(document.discounts.first, 2) +
+                               ", " + literal(document.discounts.second, 2) + ")";
+    connection.Execute("INSERT INTO Cav (Cav_Id, Cav_Dto1, Cav_DTO2)" + header);
+    connection.Execute("INSERT INTO PedCa (PedCa_Id, PedCa_Dto1, PEDCA_DTO2)" + header);
     for (const Line& each : document.lines) {
-      const std::string values = std::to_string(++line) + ", " + key + ", " +
-                                 literal(each.amount, 4) + ", " + literal(each.commission, 3);
-      connection.Execute("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) VALUES (" +
-                         values + ")");
-      connection.Execute(
-          "INSERT INTO PedLi (LiPed_Id, PedLi_IdPedca, PedLi_Importe, PedLi_Comi) VALUES (" +
-          values + ")");
+      const std::string row = " VALUES (" + std::to_string(++line) + ", " + key + ", " +
+                              literal(each.amount, 4) + ", " + literal(each.commission, 3) + ")";
+      connection.Execute("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi)" + row);
+      connection.Execute("INSERT INTO PedLi (LiPed_Id, PedLi_IdPedca, PedLi_Importe, PedLi_Comi)" +
+                         row);
     }
   }
   connection.CommitTrans();

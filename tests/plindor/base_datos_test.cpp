@@ -44,7 +44,7 @@ TEST_F(BaseDatosTest, WritesInsertUpdateAndDelete) {
                           "DELETE FROM Lca where Lca_Id=12"));
 }
 
-TEST_F(BaseDatosTest, NeverTouchesAWholeTableForWantOfACondition) {
+TEST_F(BaseDatosTest, NeverTouchesAWholeTableWithoutACondition) {
   service.Tabla = "Cav";
   service.Campos.AgregaCampo("Cav_IdLca", ListaCampos::Literal, "Null", 2);
   for (const char* condition :
@@ -77,7 +77,7 @@ TEST_F(BaseDatosTest, RefusesAStatementThatCannotBeBuilt) {
   EXPECT_TRUE(service.InsertaFila(error)) << error;
 }
 
-TEST_F(BaseDatosTest, GivesTheWordsOfTheEngineWhenAStatementFails) {
+TEST_F(BaseDatosTest, GivesTheEnginesMessageWhenAStatementFails) {
   connection->answer(ado::Error(2601, "Clave duplicada"));
   service.Tabla = "Lcd";
   service.Campos.AgregaCampo("Lcd_IdCav", ListaCampos::Entero, 1, 2);

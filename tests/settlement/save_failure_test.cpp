@@ -2,6 +2,8 @@
 
 #include "engines/sqlite/sqlite_connection.h"
 #include "tests/settlement/settlement_world.h"
+#include "tests/support/rows.h"
+#include "tests/support/sweep.h"
 
 namespace korvantes::settlement {
 namespace {
@@ -11,73 +13,60 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-constexpr const char* kWords = "disco lleno";
+using support::Fault;
+using support::rowsOf;
+using support::sweep;
 
-using support::FaultyConnection;
-using support::kMoments;
-
-/// Fails the nth call of the save for every n until one save goes through, and holds the database,
-/// the screen and the message against what a failed save promises.
-void sweep(World& world, Screen& screen, FaultyConnection::When when) {
+/// Saves with a failing call. A failed save is told, stores nothing and leaves the screen as it
+/// was; the next click saves once.
+void save(World& world, Screen& screen, Fault& fault) {
   const auto before = world.stored();
   const auto entered = screen.contents();
   const int settlement = screen.form.nLiqui;
-  for (std::size_t n = 1;; ++n) {
-    SCOPED_TRACE("call " + std::to_string(n));
-    ASSERT_LT(n, 50U);
-    world.messages.clear();
-    world.connection->failAt(n, ado::Error(13, kWords), when);
-    screen.click("cmdGrabar");
-    EXPECT_FALSE(world.connection->inTransaction());
-    ASSERT_EQ(world.messages.size(), 1U);
-    if (!world.connection->failed()) {
-      EXPECT_GT(n, 5U);
-      EXPECT_THAT(world.messages[0], StartsWith("[64]"));
-      return;
-    }
-    EXPECT_THAT(world.messages[0], AllOf(StartsWith("[16] KORVANTES | Error "), HasSubstr(kWords)));
+  world.messages.clear();
+  fault.during(*world.connection, [&] { screen.click("cmdGrabar"); });
+  EXPECT_FALSE(world.connection->inTransaction());
+  ASSERT_EQ(world.messages.size(), 1U);
+  if (fault.met()) {
+    EXPECT_THAT(world.messages[0],
+                AllOf(StartsWith("[16] KORVANTES | Error "), HasSubstr(Fault::kWords)));
     EXPECT_EQ(screen.contents(), entered);
     EXPECT_EQ(screen.form.nLiqui, settlement);
-    if (when == FaultyConnection::When::After &&
-        world.connection->calls()[n - 1] == "CommitTrans") {
+    const auto stored = world.stored();
+    EXPECT_EQ(stored != before, fault.afterwards("CommitTrans"));
+    screen.click("cmdGrabar");
+    if (stored != before) {
       // It is stored although nobody knows: saving once more must not store it twice.
-      const auto stored = world.stored();
-      EXPECT_NE(stored, before);
-      screen.click("cmdGrabar");
       EXPECT_THAT(world.messages.back(), StartsWith("[16]"));
       EXPECT_EQ(world.stored(), stored);
       return;
     }
-    EXPECT_EQ(world.stored(), before);
   }
+  EXPECT_THAT(world.messages.back(), StartsWith("[64]"));
 }
 
 TEST(SettlementSaveFailure, WhateverCallFailsANewSettlementIsSavedOnceLater) {
-  for (const auto when : kMoments) {
-    World world;
+  const std::string remarks = "l'acuerdo; de 2026 -- ñ";
+  sweep<World>(6, [&](World& world, Fault& fault) {
     world.show([&](Screen& screen) {
-      screen.search("5", false, false);
-      screen.type(2, "24112026");
-      screen.paste(7, "l'acuerdo; de 2026 -- ñ");
-      for (int note : {1, 3}) screen.tick(screen.rowOf(note));
-      sweep(world, screen, when);
+      screen.makeOut({1, 3});
+      screen.paste(7, remarks);
+      save(world, screen, fault);
     });
-    const ado::Recordset rows = world.sql("select Lca_Obs from Lca");
-    ASSERT_EQ(rows.RecordCount(), 1U);
-    EXPECT_EQ(rows.cell(0, 0).text(), "l'acuerdo; de 2026 -- ñ");
-    EXPECT_EQ(
-        world.sql("select Cav_Id from Cav inner join Lca on Cav_IdLca = Lca_Id").RecordCount(), 2U);
-  }
+    EXPECT_EQ(rowsOf(world.sql("select Lca_Obs, Cav_Id from Lca inner join Cav on Cav_IdLca = "
+                               "Lca_Id order by Cav_Id")),
+              (std::vector{remarks + "|1", remarks + "|3"}));
+    EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
+  });
 }
 
 TEST(SettlementSaveFailure, WhateverCallFailsAStoredSettlementIsReplacedLaterNeverDoubled) {
-  for (const auto when : kMoments) {
-    World world;
+  sweep<World>(9, [](World& world, Fault& fault) {
     const int old = world.settle({1, 2, 3});
     world.show(
         [&](Screen& screen) {
           screen.tick(screen.rowOf(3), false);
-          sweep(world, screen, when);
+          save(world, screen, fault);
         },
         old);
     const ado::Recordset rows = world.sql("select Lca_Id, Lca_IdTiva from Lca");
@@ -86,7 +75,7 @@ TEST(SettlementSaveFailure, WhateverCallFailsAStoredSettlementIsReplacedLaterNev
     EXPECT_EQ(rows.cell(0, 1).asLong(), 2) << "nothing looked rates up";
     EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), 2U);
     EXPECT_TRUE(world.sql("select Cav_IdLca from Cav where Cav_Id = 3").cell(0, 0).isNull());
-  }
+  });
 }
 
 TEST(SettlementSaveFailure, ARollbackIsTriedTwiceAndDoesNotHideTheFirstError) {
@@ -94,21 +83,21 @@ TEST(SettlementSaveFailure, ARollbackIsTriedTwiceAndDoesNotHideTheFirstError) {
     World world;
     world.show([&](Screen& screen) {
       screen.makeOut({1});
-      world.connection->failAt(2, ado::Error(13, kWords));
+      world.connection->failAt(2, ado::Error(13, Fault::kWords));
       world.connection->rollbackRefusals = refusals;
       screen.click("cmdGrabar");
       const std::string lost =
           refusals == 1 ? "" : "\r\nTampoco se han podido deshacer los cambios: sin conexión";
       EXPECT_THAT(world.messages,
                   ElementsAre("[16] KORVANTES | Error registrando liquidacion:\r\n" +
-                              std::string(kWords) + lost));
+                              std::string(Fault::kWords) + lost));
       EXPECT_EQ(world.connection->inTransaction(), refusals == 2);
       if (refusals == 2) world.connection->RollbackTrans();
     });
   }
 }
 
-TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
+TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledOrDeletedIsNotPaid) {
   World world;
   world.show([&](Screen& screen) {
     screen.makeOut({1, 3});
@@ -128,24 +117,21 @@ TEST(SettlementSaveFailure, ANoteThatAnotherUserHasSettledIsNotPaidTwice) {
     EXPECT_EQ(world.stored(), before);
     EXPECT_EQ(screen.contents(), entered);
 
-    // Without that note the rest can be saved.
+    // A note that another user has deleted is not settled either.
     screen.tick(screen.rowOf(3), false);
+    world.sql("delete from Cav where Cav_Id = 1");
+    screen.click("cmdGrabar");
+    EXPECT_EQ(world.messages.back(),
+              "[16] KORVANTES | Error actualizando facturas liquidadas:\r\n"
+              "El albarán A/15 ya no existe.");
+    EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 1U);
+
+    // Without those notes the rest can be saved.
+    screen.tick(screen.rowOf(1), false);
+    screen.tick(screen.rowOf(4));
     screen.click("cmdGrabar");
     EXPECT_THAT(world.messages.back(), StartsWith("[64]"));
   });
-}
-
-TEST(SettlementSaveFailure, ANoteThatIsGoneIsNotSettled) {
-  World world;
-  world.show([&](Screen& screen) {
-    screen.makeOut({3});
-    world.sql("delete from Cav where Cav_Id = 3");
-    screen.click("cmdGrabar");
-  });
-  EXPECT_THAT(world.messages,
-              ElementsAre("[16] KORVANTES | Error actualizando facturas liquidadas:\r\n"
-                          "El albarán A/17 ya no existe."));
-  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
 }
 
 TEST(SettlementSaveFailure, ASettlementThatAnotherUserHasReplacedIsNotWrittenAgain) {

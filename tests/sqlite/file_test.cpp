@@ -29,7 +29,7 @@ class SqliteFileTest : public testing::Test {
   std::string path_ = folder_.file("empresa.db");
 };
 
-TEST_F(SqliteFileTest, BothFilesAreTheirOwnersAlone) {
+TEST_F(SqliteFileTest, BothFilesAreForTheirOwnerOnly) {
   SqliteConnection connection(path_, kCreate);
   EXPECT_FALSE(connection.hasTables());
   makeTables(connection);
@@ -80,19 +80,11 @@ TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
   fs::create_symlink("ajeno", path_ + ".vespara");
   refuse(path_, kCreate);
   EXPECT_EQ(fs::file_size(folder_.file("ajeno")), 0U);
-  // A link on the way there is the user's own way of arranging folders.
+  // A link to the folder is how the user arranges folders.
   fs::create_directory(folder_.file("datos"));
   fs::create_directory_symlink("datos", folder_.file("enlace"));
   SqliteConnection(folder_.file("enlace/empresa.db"), kCreate);
   EXPECT_TRUE(fs::exists(folder_.file("datos/empresa.db")));
-}
-
-TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanishWithSqlitesWords) {
-  SqliteConnection first(path_, kCreate);
-  SqliteConnection second(path_, kCreate);
-  first.BeginTrans();
-  EXPECT_EQ(support::failureOf([&] { second.BeginTrans(); }),
-            "La base de datos está ocupada por otro usuario (database is locked)");
 }
 
 TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {

@@ -12,29 +12,21 @@ class ResultTest : public EngineTest {
   }
 };
 
-TEST_F(ResultTest, ColumnsBearTheNamesOfTheStatementAndTheTypesOfTheTables) {
-  const auto rows =
-      run("select AGE_id,age_nom,lca.*,(select count(*) from Lcd) as Notas "
-          "from lca inner join age on lca_idag=age_id");
-  const struct {
-    std::size_t position;
-    const char* name;
-    ado::FieldType type;
-    int size;
-    int scale;
-  } cases[] = {{0, "AGE_id", ado::FieldType::Integer, 0, 0},
-               {1, "age_nom", ado::FieldType::VarChar, 100, 0},
-               {4, "Lca_Fecha", ado::FieldType::Date, 0, 0},
-               {10, "Lca_Base", ado::FieldType::Currency, 0, 4},
-               {11, "Lca_PorIva", ado::FieldType::Numeric, 0, 2},
-               {16, "Notas", ado::FieldType::Integer, 0, 0}};
-  for (const auto& [position, name, type, size, scale] : cases) {
-    const auto& definition = rows.definitions().at(position);
-    EXPECT_EQ(definition.name, name);
-    EXPECT_EQ(definition.type, type) << name;
-    EXPECT_EQ(definition.size, size) << name;
-    EXPECT_EQ(definition.scale, scale) << name;
-  }
+TEST_F(ResultTest, ColumnsHaveTheNamesOfTheStatementAndTheTypesOfTheTables) {
+  const auto found = run("select AGE_id,age_nom,Lca_Fecha,Lca_Base,Lca_PorIva,"
+                         "(select count(*) from Lcd) as Notas "
+                         "from lca inner join age on lca_idag=age_id")
+                         .definitions();
+  using ado::FieldType;
+  const ado::FieldDefinition expected[] = {
+      {"AGE_id", FieldType::Integer, 0, 0},     {"age_nom", FieldType::VarChar, 100, 0},
+      {"Lca_Fecha", FieldType::Date, 0, 0},     {"Lca_Base", FieldType::Currency, 0, 4},
+      {"Lca_PorIva", FieldType::Numeric, 0, 2}, {"Notas", FieldType::Integer, 0, 0}};
+  const auto all = [](const ado::FieldDefinition& each) {
+    return std::tie(each.name, each.type, each.size, each.scale);
+  };
+  ASSERT_EQ(found.size(), std::size(expected));
+  for (std::size_t i = 0; i < found.size(); ++i) EXPECT_EQ(all(found[i]), all(expected[i])) << i;
 }
 
 TEST_F(ResultTest, EveryTypeComesBackAsItsKind) {
@@ -58,10 +50,6 @@ TEST_F(ResultTest, DatesAreReadDayFirst) {
             (std::vector<std::string>{"2|02/02/2026", "1|01/02/2026", "3|NULL"}));
   EXPECT_EQ(rows("SELECT Fav_Id FROM Fav WHERE Fav_Fecha BETWEEN '01/02/2026 ' AND '01/02/2026' "),
             std::vector<std::string>{"1"});
-  for (const char* date : {"'31/02/2026'", "'02/13/2026'", "'ayer'", "'2026-02-01x'"}) {
-    failure("SELECT Fav_Id FROM Fav WHERE Fav_Fecha <= " + std::string(date));
-    failure("update Fav set Fav_Fecha = " + std::string(date));
-  }
   EXPECT_EQ(cell("SELECT COUNT(*) FROM Fav WHERE Fav_Fecha > '01/01/2026'"), "2");
 }
 
@@ -79,11 +67,11 @@ TEST_F(ResultTest, OnlyASelectGivesAnOpenResult) {
   EXPECT_EQ(changed, -1);
 }
 
-TEST_F(ResultTest, AFailureBearsTheServersNumberAndStoresNothing) {
+TEST_F(ResultTest, AFailureHasTheServersNumberAndStoresNothing) {
   invoice(1, "NULL");
   constexpr long kDivisionByZero = 8134;
   EXPECT_EQ(failure("SELECT 1 / (Fav_Numero - 101) FROM Fav"), kDivisionByZero);
-  // The words of one failure do not stick to the next.
+  // The message of one failure does not stick to the next.
   run("insert into Lcd (Lcd_IdLca, Lcd_IdCav) values (1, 1)");
   EXPECT_NE(failure("insert into Lcd (Lcd_IdLca, Lcd_IdCav) values (1, 1)"), kDivisionByZero);
   failure("insert into Lav (Lav_Id, Lav_IdCav, Lav_Importe) values (3, 1, 922337203685477.5808)");
@@ -91,23 +79,30 @@ TEST_F(ResultTest, AFailureBearsTheServersNumberAndStoresNothing) {
   EXPECT_EQ(cell("SELECT COUNT(Lav_Id) FROM Lav"), "0");
 }
 
-TEST_F(ResultTest, AResultDoesNotFollowTheDatabase) {
-  invoice(1, "NULL");
-  invoice(2, "NULL");
-  const auto before = run("SELECT Fav_Id FROM Fav");
-  run("delete from Fav");
-  EXPECT_EQ(before.RecordCount(), 2U);
-  EXPECT_EQ(before.cell(1, 0).asLong(), 2);
+TEST_F(ResultTest, EachLiteralOfARepeatedTextIsItsOwn) {
+  for (int id = 1; id <= 40; ++id) invoice(id, "NULL");
+  for (int id = 40; id >= 1; --id) {
+    EXPECT_EQ(
+        cell("SELECT Fav_Numero FROM Fav WHERE Fav_Serie = 'A' AND Fav_Id = " + std::to_string(id)),
+        std::to_string(100 + id));
+  }
+  EXPECT_EQ(cell("SELECT COUNT(*) FROM Fav WHERE Fav_Serie = 'B' AND Fav_Id = 3"), "0");
 }
 
-TEST_F(ResultTest, EachLiteralOfARepeatedTextIsItsOwn) {
-  for (int id = 1; id <= 40; ++id) invoice(id, "'" + std::to_string(1 + id % 28) + "/03/2026'");
-  for (int id = 40; id >= 1; --id) {
-    EXPECT_EQ(cell("SELECT Fav_Numero FROM Fav WHERE Fav_Id = " + std::to_string(id)),
-              std::to_string(100 + id));
+TEST_F(ResultTest, ComparingTextsIgnoresCaseAndTrailingBlanksButNotLetters) {
+  int id = 0;
+  for (const char* name : {"Muñoz", "munoz ", "MUÑOZ  ", "O''Neill"})
+    run("insert into Age (AGE_ID, AGE_NOM) values (" + std::to_string(++id) + ", '" + name + "')");
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
+      {"= 'muñoz'", {"1", "3"}},
+      {"= 'MUNOZ'", {"2"}},
+      {"= 'o''NEILL'", {"4"}},
+      {"> 'munozz' and AGE_NOM < 'n'", {"1", "3"}}};
+  for (const auto& [condition, found] : cases) {
+    EXPECT_EQ(
+        rows(std::string("select AGE_ID from Age where AGE_NOM ") + condition + " order by AGE_ID"),
+        found);
   }
-  EXPECT_EQ(cell("SELECT COUNT(*) FROM Fav WHERE Fav_Serie = 'A' AND Fav_Id = 3"), "1");
-  EXPECT_EQ(cell("SELECT COUNT(*) FROM Fav WHERE Fav_Serie = 'B' AND Fav_Id = 3"), "0");
 }
 
 }  // namespace

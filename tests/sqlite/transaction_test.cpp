@@ -1,4 +1,5 @@
 #include "tests/sqlite/engine_fixture.h"
+#include "tests/support/failure.h"
 
 namespace korvantes::testing_engines {
 namespace {
@@ -9,9 +10,12 @@ class TransactionTest : public EngineTest {
   std::string notes() { return cell("select count(*) from Cav"); }
 };
 
-TEST_F(TransactionTest, CommitKeepsAndRollbackUndoes) {
+TEST_F(TransactionTest, CommitKeepsRollbackUndoesAndCallsOutOfOrderHarmNothing) {
+  EXPECT_THROW(connection_->CommitTrans(), ado::Error);
+  EXPECT_THROW(connection_->RollbackTrans(), ado::Error);
   connection_->BeginTrans();
   note(1);
+  EXPECT_THROW(connection_->BeginTrans(), ado::Error);
   EXPECT_TRUE(connection_->inTransaction());
   connection_->CommitTrans();
   connection_->BeginTrans();
@@ -36,22 +40,13 @@ TEST_F(TransactionTest, AFailedStatementIsUndoneAndTheTransactionGoesOn) {
   EXPECT_EQ(notes(), "3");
 }
 
-TEST_F(TransactionTest, CallsOutOfOrderAreErrorsAndHarmNothing) {
-  EXPECT_THROW(connection_->CommitTrans(), ado::Error);
-  EXPECT_THROW(connection_->RollbackTrans(), ado::Error);
-  connection_->BeginTrans();
-  note(1);
-  EXPECT_THROW(connection_->BeginTrans(), ado::Error);
-  connection_->CommitTrans();
-  EXPECT_EQ(notes(), "1");
-}
-
 TEST_F(TransactionTest, ASecondUserReadsTheOldStateAndWaitsToWrite) {
   const auto other = connect();
   connection_->BeginTrans();
   note(1);
   EXPECT_EQ(rowsOf(other->Execute("select Cav_Id from Cav")).size(), 0U);
-  EXPECT_THROW(other->BeginTrans(), ado::Error);
+  EXPECT_EQ(support::failureOf([&] { other->BeginTrans(); }),
+            "La base de datos está ocupada por otro usuario (database is locked)");
   EXPECT_FALSE(other->inTransaction());
   EXPECT_THROW(other->Execute("insert into Cav (Cav_Id) values (2)"), ado::Error);
   connection_->CommitTrans();

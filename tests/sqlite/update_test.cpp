@@ -12,8 +12,7 @@ class UpdateTest : public EngineTest {
 };
 
 TEST_F(UpdateTest, APictureGoesInAndComesBack) {
-  ado::Bytes picture(300'000);
-  for (std::size_t i = 0; i < picture.size(); ++i) picture[i] = static_cast<std::byte>(i * i >> 3U);
+  const ado::Bytes picture(300'000, std::byte{0xA7});
   auto row = connection_->OpenForUpdate("select * from AGE where AGE_ID= 7");
   EXPECT_TRUE(row.Collect("AGE_IMG").isNull());
   row.Collect("AGE_IMG", picture);
@@ -39,12 +38,11 @@ TEST_F(UpdateTest, EveryTypeIsStoredAsItsColumnHoldsIt) {
   row.Update();
   EXPECT_EQ(cell("select Lca_Fecha,Lca_Cob,Lca_Base,Lca_PorIva,Lca_Obs,Lca_Iva from Lca"),
             "28/02/2026|1|1.0001|21.01|l'Eixample\n|NULL");
-  row.Collect("Lca_PorIva", 1000.0);
-  EXPECT_THROW(row.Update(), ado::Error);
-  row.CancelUpdate();
-  row.Collect("Lca_Id", 5);
-  EXPECT_THROW(row.Update(), ado::Error);
-  row.CancelUpdate();
+  for (const auto& [name, value] : {std::pair{"Lca_PorIva", 1000.0}, {"Lca_Id", 5.0}}) {
+    row.Collect(name, value);
+    EXPECT_THROW(row.Update(), ado::Error) << name;
+    row.CancelUpdate();
+  }
   EXPECT_EQ(cell("select Lca_Id,Lca_PorIva from Lca"), "1|21.01");
 }
 

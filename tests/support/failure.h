@@ -7,7 +7,7 @@
 
 namespace korvantes::support {
 
-/// The words of the failure of a call; empty without one.
+/// The message of a call's failure; empty if it succeeds.
 inline std::string failureOf(const std::function<void()>& call) {
   try {
     call();

@@ -4,12 +4,8 @@
 
 namespace korvantes::support {
 
-FaultyConnection::FaultyConnection(std::shared_ptr<ado::Connection> real)
-    : real_(std::move(real)) {}
-
 void FaultyConnection::failAt(std::size_t call, ado::Error error, When when) {
-  calls_.clear();
-  failed_ = false;
+  heal();
   failure_ = Failure{call, std::move(error), when};
 }
 
@@ -28,6 +24,7 @@ void FaultyConnection::fail() {
 
 template <class Call>
 auto FaultyConnection::counted(std::string_view name, Call call) {
+  if (onCall) onCall(name);
   calls_.emplace_back(name);
   const bool due = failure_ && calls_.size() == failure_->call;
   if (due && failure_->when == When::Before) fail();
@@ -54,11 +51,11 @@ void FaultyConnection::CommitTrans() {
 }
 
 void FaultyConnection::RollbackTrans() {
-  if (!countRollbacks_) return real_->RollbackTrans();
-  counted("RollbackTrans", [&] { real_->RollbackTrans(); });
+  if (rollbackRefusals-- > 0) throw ado::Error(14, "sin conexión");
+  real_->RollbackTrans();
 }
 
-/// Stands in front of a row opened for update.
+/// A row opened for update, whose writing can fail.
 class FaultyConnection::Row : public ado::RowWriter {
  public:
   Row(FaultyConnection& owner, ado::Recordset real) : owner_(owner), real_(std::move(real)) {}

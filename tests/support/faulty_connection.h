@@ -1,6 +1,6 @@
-// tests/support: connections that stand in for a database, or in front of one.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,7 +11,7 @@
 namespace korvantes::support {
 
 /// A connection in front of another one. It counts the calls that pass through it and can fail one
-/// of them, so that a test can sweep a procedure: count its calls once, then fail each in turn.
+/// of them.
 class FaultyConnection : public ado::Connection {
  public:
   /// When the chosen call fails.
@@ -20,24 +20,24 @@ class FaultyConnection : public ado::Connection {
     After,   ///< the call is done and its answer lost
   };
 
-  explicit FaultyConnection(std::shared_ptr<ado::Connection> real);
+  explicit FaultyConnection(std::shared_ptr<ado::Connection> real) : real_(std::move(real)) {}
 
-  /// Fails call number `call` from now on (1 is the next one) with `error`, once; the calls before
-  /// and behind it pass.
+  /// Fails the given call from now on (1 is the next one) with `error`, once.
   void failAt(std::size_t call, ado::Error error, When when = When::Before);
-  /// No failure is due any more.
+  /// Fails no call any more.
   void heal();
-  /// True once the failure asked for has happened.
+  /// Whether the failure has happened.
   bool failed() const { return failed_; }
 
-  /// Whether RollbackTrans counts, and so can fail. It does not by default: a sweep asks what the
-  /// rollback leaves behind.
-  void countRollbacks(bool count) { countRollbacks_ = count; }
-
-  /// The counted calls since the last failAt, heal or forgetCalls: statements, "BeginTrans",
-  /// "CommitTrans", "RollbackTrans", and "Update" of a row opened for it.
+  /// The calls since the last failAt, heal or forgetCalls: statements, "BeginTrans", "CommitTrans",
+  /// and "Update" of a row opened for it. Rollbacks pass uncounted: a sweep asks what they restore.
   const std::vector<std::string>& calls() const { return calls_; }
   void forgetCalls() { calls_.clear(); }
+
+  /// Called with each counted call before it passes.
+  std::function<void(std::string_view)> onCall;
+  /// How many of the next rollbacks fail.
+  int rollbackRefusals = 0;
 
   ado::Recordset Execute(std::string_view statement, long long* rowsAffected = nullptr) override;
   void BeginTrans() override;
@@ -64,11 +64,6 @@ class FaultyConnection : public ado::Connection {
   std::vector<std::string> calls_;
   std::optional<Failure> failure_;
   bool failed_ = false;
-  bool countRollbacks_ = false;
 };
-
-/// For a sweep at both.
-inline constexpr FaultyConnection::When kMoments[] = {FaultyConnection::When::Before,
-                                                      FaultyConnection::When::After};
 
 }  // namespace korvantes::support

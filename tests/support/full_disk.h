@@ -5,7 +5,7 @@
 
 namespace korvantes::support {
 
-/// No file of this process grows beyond a size meanwhile, as on a full disk.
+/// While it exists, no file of this process grows beyond a size, as on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

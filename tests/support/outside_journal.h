@@ -7,14 +7,14 @@
 
 namespace korvantes::support {
 
-/// Stands in for the report and the spreadsheet object, and writes down what a screen asks of them:
+/// Replaces the report and the spreadsheet object, and writes down what a screen asks of them:
 /// "MyBd = service", "ShowReport | 11 | select … | 0 (disabled, pointer 13)", "released".
 struct OutsideJournal {
   std::vector<std::string> lines;
-  /// The words that every call fails with, if any.
+  /// The message that every call fails with; none if empty.
   std::string failure;
 
-  /// Registers the objects of both names; the journal has to outlive them.
+  /// Registers both objects; the journal must outlive them.
   void offer(scripts::HeadlessDesktop& desktop);
 };
 

@@ -30,18 +30,8 @@ std::vector<std::string> misplaced(const screen::Form& form) {
   return found;
 }
 
-ado::Recordset ScreenLink::Execute(std::string_view statement, long long* rowsAffected) {
-  if (onStatement) onStatement(statement);
-  return FaultyConnection::Execute(statement, rowsAffected);
-}
-
-void ScreenLink::RollbackTrans() {
-  if (rollbackRefusals-- > 0) throw ado::Error(14, "sin conexión");
-  FaultyConnection::RollbackTrans();
-}
-
 ScreenWorld::ScreenWorld()
-    : connection(std::make_shared<ScreenLink>(base_.connection())),
+    : connection(std::make_shared<FaultyConnection>(base_.connection())),
       component_(KORVAN::Create()),
       former_(screen::Desktop::makeCurrent(&desktop)) {
   desktop.regional(screen::Regional::named("es-ES"));

@@ -56,20 +56,9 @@ struct OpenScreen {
 /// The stops of the Tab key, from the first one until they repeat.
 std::vector<std::string> tabStops(screen::Form& form);
 
-/// The controls that share a tab index or reach out of their frame or form; none in a good layout.
+/// The controls that share a tab index or extend beyond their frame or form; empty in a good
+/// layout.
 std::vector<std::string> misplaced(const screen::Form& form);
-
-/// The connection of the screens: it tells of each statement before it passes, and can also refuse
-/// to roll back.
-class ScreenLink : public FaultyConnection {
- public:
-  using FaultyConnection::FaultyConnection;
-  std::function<void(std::string_view)> onStatement;
-  int rollbackRefusals = 0;  ///< how many of the next ones it refuses
-
-  ado::Recordset Execute(std::string_view statement, long long* rowsAffected = nullptr) override;
-  void RollbackTrans() override;
-};
 
 /// An empty database, the component on it, and a desktop with Spanish settings at noon of
 /// 24/11/2026.
@@ -84,7 +73,7 @@ class ScreenWorld {
 
   /// Opens the screen, lets the user play, closes it. A user may open further ones.
   void play(screen::Form& form, const std::function<void()>& user);
-  /// Runs a statement beside the screens, uncounted.
+  /// Runs a statement that is not counted among the screens' calls.
   ado::Recordset sql(std::string_view statement) { return base_.connection()->Execute(statement); }
   template <class Statements>
   void sqlAll(const Statements& statements) {
@@ -93,22 +82,22 @@ class ScreenWorld {
     base_.connection()->CommitTrans();
   }
   std::string path() const { return base_.path(); }
-  /// What the user chooses in the next list dialogs, by its place from 0.
+  /// The row that the user chooses in list dialogs from now on, from 0.
   void chooseFromLists(std::size_t row);
 
   scripts::HeadlessDesktop desktop;
-  std::shared_ptr<ScreenLink> connection;
+  std::shared_ptr<FaultyConnection> connection;
   /// Message boxes since the last clear: "[16] title | text".
   std::vector<std::string> messages;
-  /// How the user answers the next questions; `otherwise` when there is none left, and the default
-  /// button without that.
+  /// The answers to the next questions. After them `otherwise` is given, or the default button if
+  /// that is not set.
   std::deque<screen::Answer> answers;
   std::optional<screen::Answer> otherwise;
 
  private:
   std::shared_ptr<KORVAN> component_;
   screen::Desktop* former_;
-  /// Who plays the open screens, topmost last.
+  /// The users of the open screens, topmost last.
   std::list<std::function<void()>> users_;
 };
 

@@ -8,7 +8,7 @@
 
 namespace korvantes::support {
 
-/// A database file with the empty tables, in a folder of its own that goes with it.
+/// A database file with the empty tables, in a temporary folder of its own.
 class TemporaryDatabase {
  public:
   TemporaryDatabase();

@@ -5,8 +5,8 @@
 
 namespace korvantes::support {
 
-/// A folder of its own for one test, gone after it. In memory where the system offers it: every
-/// commit waits for the disk.
+/// A folder for one test, deleted after it. It is in memory if possible, as every commit waits for
+/// the disk.
 class TemporaryFolder {
  public:
   TemporaryFolder();

@@ -45,13 +45,10 @@ TEST_F(Cache, TextsThatDifferInWhatDecidesTheirFormAreTwo) {
       {"SELECT TOP 1 * FROM Cav", "SELECT TOP 2 * FROM Cav"},
       {"SELECT ROUND(Lav_Importe, 2) FROM Lav", "SELECT ROUND(Lav_Importe, 1) FROM Lav"},
       {"SELECT Cav_Dto1 / 100 FROM Cav", "SELECT Cav_Dto1 / 10 FROM Cav"},
-      {"SELECT Cav_Dto1 * 12.5 FROM Cav", "SELECT Cav_Dto1 * 12.50 FROM Cav"},
       {"SELECT CAST(Cav_Id AS char(5)) FROM Cav", "SELECT CAST(Cav_Id AS char(6)) FROM Cav"},
       {"SELECT Cav_Id, Cav_Serie FROM Cav ORDER BY 1",
        "SELECT Cav_Id, Cav_Serie FROM Cav ORDER BY 2"},
       {"SELECT 'a' FROM Cav", "SELECT 'ab' FROM Cav"},
-      {"SELECT * FROM Lav WHERE Lav_Importe > 1.5",
-       "SELECT * FROM Lav WHERE Lav_Importe > 1.56789"},
       {"SELECT * FROM Cav WHERE Cav_Id = 1", "SELECT * FROM Cav WHERE Cav_Id = '1'"},
       {"SELECT * FROM Cav WHERE Cav_Id = 1", "SELECT * FROM Cav WHERE Cav_Id = 1.5"},
   };

@@ -25,6 +25,8 @@ std::vector<Case> casesOf(const std::string& file) {
   for (std::string line; std::getline(in, line);) {
     if (line.starts_with(kMark)) {
       cases.back().expected = line.substr(kMark.size());
+    } else if (const auto at = line.find(" => "); at != std::string::npos) {
+      cases.push_back({line.substr(0, at), line.substr(at + 1 + kMark.size())});
     } else if (!line.empty() && !line.starts_with("-- ")) {
       cases.push_back({line, {}});
     }

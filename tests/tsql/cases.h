@@ -9,19 +9,19 @@
 
 namespace korvantes::tsql {
 
-/// A line of a table of cases: a statement, and what stands behind "=> " on the next line.
+/// A case of a table: a statement, and the text after "=> " on the same line or the next one.
 struct Case {
   std::string statement;
   std::string expected;
 };
 
-/// Reads a table beside this file. Lines that begin with "--" and empty ones are comments.
+/// Reads a table from this folder. Empty lines and lines that begin with "-- " are comments.
 std::vector<Case> casesOf(const std::string& file);
 
 /// The tables of data/schema.sql.
 std::shared_ptr<Catalogue> schema();
 
-/// The words of the refusal; empty when the statement compiles.
+/// The message of the refusal; empty if the statement compiles.
 std::string refusalOf(Compiler& compiler, std::string_view statement);
 
 /// "Lca_Id int, Base money": the result's columns, '-' for one without a name.

@@ -1,3 +1,4 @@
+#include <fstream>
 #include <gtest/gtest.h>
 
 #include "tests/tsql/cases.h"
@@ -5,7 +6,7 @@
 namespace korvantes::tsql {
 namespace {
 
-TEST(Statements, EveryStatementInUseCompilesToItsColumns) {
+TEST(Statements, WhatIsInTheSubsetCompilesToItsColumns) {
   Compiler compiler(Compiler::Engine::SQLite, schema());
   for (const auto& accepted : casesOf("accepted.sql")) {
     SCOPED_TRACE(accepted.statement);
@@ -14,12 +15,28 @@ TEST(Statements, EveryStatementInUseCompilesToItsColumns) {
   }
 }
 
+TEST(Statements, TheExamplesOfTheManualCompile) {
+  std::ifstream page(std::string(KORVANTES_SOURCE) + "/docs/sql-subset.md");
+  Compiler compiler(Compiler::Engine::SQLite, schema());
+  bool inside = false;
+  int statements = 0;
+  for (std::string line; std::getline(page, line);) {
+    if (line.starts_with("```")) {
+      inside = line == "```sql";
+    } else if (inside) {
+      ++statements;
+      EXPECT_EQ(refusalOf(compiler, line), "") << line;
+    }
+  }
+  EXPECT_GT(statements, 15);
+}
+
 TEST(Statements, WhatIsOutsideTheSubsetIsRefusedWithPlaceAndWord) {
   Compiler compiler(Compiler::Engine::SQLite, schema());
   for (const auto& rejected : casesOf("rejected.sql")) {
     SCOPED_TRACE(rejected.statement);
     EXPECT_EQ(refusalOf(compiler, rejected.statement), rejected.expected);
-    // A refusal leaves nothing behind that a second try could run.
+    // A refusal caches nothing that a second try could run.
     EXPECT_EQ(refusalOf(compiler, rejected.statement), rejected.expected);
   }
 }
@@ -60,12 +77,12 @@ TEST(Statements, TextsTooDeepOrTooLongAreRefusedAndNotRun) {
   EXPECT_EQ(refusalOf(compiler, "SELECT 1 WHERE 1=1" + repeated(" AND 1=1", 300)), "");
 }
 
-/// Every prefix of a statement, and the statement with any one character doubled or replaced, ends
-/// in a result or a refusal; nothing else.
+/// Every prefix of a statement, and the statement with any one character replaced, either compiles
+/// or is refused.
 TEST(Statements, DamagedTextsNeverDoWorseThanARefusal) {
   Compiler compiler(Compiler::Engine::SQLite, schema());
   const auto cases = casesOf("accepted.sql");
-  for (std::size_t c = 0; c < cases.size(); c += 23) {
+  for (std::size_t c = 0; c < cases.size(); c += 6) {
     const auto& statement = cases[c].statement;
     for (std::size_t i = 0; i < statement.size(); ++i) {
       refusalOf(compiler, statement.substr(0, i));

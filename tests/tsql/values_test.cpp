@@ -11,7 +11,7 @@ namespace {
 
 using support::shown;
 
-/// A database with the one row that values.sql speaks of.
+/// A database with the one row of values.sql.
 class Values : public testing::Test {
  protected:
   Values() {
