@@ -140,7 +140,7 @@ std::string UtilFormulario::BuscaEnLista(const std::string& sSql, const std::str
                                          const std::string& sCol1, const std::string& sCol2,
                                          const std::string& sTitulo, long nAncho1, long nAncho2,
                                          long /*n0*/) const {
-  if (conexion_ == nullptr) throw ado::Error(0, "La búsqueda no tiene conexión a la base de datos");
+  if (!conexion_) throw ado::Error(0, "La búsqueda no tiene conexión a la base de datos");
   const ado::Recordset filas = conexion_->Execute(sSql + " ORDER BY " + sOrden);
   const std::size_t columnas = filas.Fields().Count();
   if (columnas < 3) {

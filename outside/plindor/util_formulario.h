@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "runtime/ado/connection.h"
 #include "runtime/screen/controls.h"
@@ -17,7 +18,9 @@ class UtilFormulario {
   double ColorFoco = 65535;
   double ColorNormal = 16777215;
 
-  void Conexion(ado::Connection& conexion) { conexion_ = &conexion; }
+  /// The connection that BuscaEnLista searches. It stays open for as long as this object lives,
+  /// whatever becomes of the service it came from.
+  void Conexion(std::shared_ptr<ado::Connection> conexion) { conexion_ = std::move(conexion); }
 
   /// Check letter of a Spanish tax number (NIF): number modulo 23 into "TRWAGMYFPDXBNJZSQVHLCKE".
   /// Digits alone count; a leading X, Y or Z stands for 0, 1, 2. Without digits, or with more than
@@ -58,7 +61,7 @@ class UtilFormulario {
                            const std::string& sTitulo, long nAncho1, long nAncho2, long n0) const;
 
  private:
-  ado::Connection* conexion_ = nullptr;
+  std::shared_ptr<ado::Connection> conexion_;
 };
 
 /// Column of a row that BuscaEnLista gave, from 0.

@@ -6,6 +6,8 @@
 #include "data/commission_rule.h"
 #include "runtime/screen/headless_desktop.h"
 #include "tests/support/recording_connection.h"
+#include "tests/support/screen_world.h"
+#include "tests/support/temporary_database.h"
 
 namespace korvantes {
 namespace {
@@ -17,7 +19,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-using testing::StartsWith;
 using testing::ThrowsMessage;
 
 struct KorvanTest : testing::Test {
@@ -71,15 +72,56 @@ TEST_F(KorvanTest, TheLatestObjectServesEveryScreen) {
   EXPECT_EQ(one->calls.size(), 1U);
 }
 
-TEST_F(KorvanTest, EveryDataAccessFetchesTheServiceAnew) {
-  const auto component = KORVAN::Create();
-  component->MyBd(serviceOn(one));
-  const std::weak_ptr<plindor::BaseDatos> replaced = component->MyBd();
-  component->MyBd(serviceOn(two));
-  EXPECT_TRUE(replaced.expired());
-  mdoKORVANTES::Conexion().Execute("SELECT 1");
-  EXPECT_THAT(one->calls, IsEmpty());
-  EXPECT_THAT(two->calls, ElementsAre("SELECT 1"));
+/// A database of two agents that remembers the statements it was asked.
+struct Office {
+  Office() {
+    for (const char* agent : {"1,'Ana'", "2,'Blas'"})
+      base.connection()->Execute("INSERT INTO Age (AGE_ID,AGE_NOM) VALUES (" + std::string(agent) +
+                                 ")");
+  }
+  std::shared_ptr<plindor::BaseDatos> service() {
+    const auto link = std::make_shared<support::ScreenLink>(base.connection());
+    link->onStatement = [this](std::string_view statement) { asked.emplace_back(statement); };
+    return std::make_shared<plindor::BaseDatos>(link);
+  }
+
+  support::TemporaryDatabase base;
+  std::vector<std::string> asked;
+};
+
+TEST_F(KorvanTest, AnOpenScreenKeepsTheServiceOfItsSearchDialogAndAsksTheNewOneForAllElse) {
+  struct Case {
+    void (*show)(KORVAN&);
+    const char* button;     ///< what the user clicks after choosing the agent
+    const char* statement;  ///< the first one that the new service gets
+  };
+  const Case cases[] = {
+      {[](KORVAN& component) { component.jShow(); }, nullptr, "select AGE_IMG"},
+      {[](KORVAN& component) { component.jShowNewLiqui(); }, nullptr, "SELECT Age_ID"},
+      {[](KORVAN& component) { component.jShowInfLiqui(); }, "cmdBuscar", "Select Age_ID"},
+  };
+  desktop.onList = [](const screen::ListDialog&) {
+    return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{1};
+  };
+  Office earlier, later;
+  for (const Case& test : cases) {
+    const auto component = KORVAN::Create();
+    component->MyBd(earlier.service());
+    const std::weak_ptr<plindor::BaseDatos> replaced = component->MyBd();
+    desktop.whileShown = [&](screen::Form& form) {
+      earlier.asked.clear();
+      later.asked.clear();
+      component->MyBd(later.service());
+      desktop.stroke(*screen::keyNamed("F1"));
+      if (test.button != nullptr) desktop.user().click(*form.findControl(test.button));
+      EXPECT_THAT(earlier.asked, ElementsAre(HasSubstr(" ORDER BY "))) << form.name();
+      ASSERT_THAT(later.asked, Not(IsEmpty())) << form.name();
+      EXPECT_THAT(later.asked.front(), testing::StartsWith(test.statement)) << form.name();
+      form.Unload();
+    };
+    test.show(*component);
+    EXPECT_TRUE(replaced.expired());
+  }
 }
 
 TEST_F(KorvanTest, EachShowOpensAFreshFormWithTheEnterMarkerAndDropsIt) {

@@ -171,11 +171,11 @@ TEST_F(UtilFormularioTest, CleansTheFieldBeingEditedAndNoStoredValue) {
 }
 
 TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
-  support::RecordingConnection connection;
+  const auto connection = std::make_shared<support::RecordingConnection>();
   const auto agents = support::resultOf(
       {"k", "AGE_ID", "AGE_NOM"}, {0, 12, "Ana Ruiz", 0, 7, ado::Variant(), 0, 3, "Zoe Peña"});
-  connection.answer(agents);
-  connection.answer(agents);
+  connection->answer(agents);
+  connection->answer(agents);
   util.Conexion(connection);
   std::vector<std::string> shown;
   std::optional<std::size_t> choice = 2;
@@ -197,15 +197,15 @@ TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
                                  "7=", "3=Zoe Peña"));
   choice.reset();
   EXPECT_EQ(search(), "");
-  EXPECT_EQ(connection.calls.at(1), "Select (0) as k ,AGE_ID,AGE_NOM FROM AGE ORDER BY AGE_NOM");
+  EXPECT_EQ(connection->calls.at(1), "Select (0) as k ,AGE_ID,AGE_NOM FROM AGE ORDER BY AGE_NOM");
 }
 
 TEST_F(UtilFormularioTest, SaysWhyASearchCannotRun) {
   const auto search = [&] { util.BuscaEnLista("Select 1", "1", "", "", "", 0, 0, 0); };
   EXPECT_THROW(search(), ado::Error);
-  support::RecordingConnection connection;
-  connection.answer(ado::Error(208, "No existe la tabla Age"));
-  connection.answer(support::resultOf({"k", "c"}, {0, 1}));
+  const auto connection = std::make_shared<support::RecordingConnection>();
+  connection->answer(ado::Error(208, "No existe la tabla Age"));
+  connection->answer(support::resultOf({"k", "c"}, {0, 1}));
   util.Conexion(connection);
   EXPECT_THAT(search, testing::ThrowsMessage<ado::Error>("No existe la tabla Age"));
   EXPECT_THAT(search, testing::ThrowsMessage<ado::Error>(HasSubstr("un código y un nombre")));
