@@ -1,5 +1,6 @@
 #include "component/KORVAN.h"
 
+#include <cstring>
 #include <gmock/gmock.h>
 
 #include "component/mdoKORVANTES.h"
@@ -47,6 +48,24 @@ TEST_F(KorvanTest, SaysWhatIsMissingBeforeTheDatabaseServiceIsSet) {
               ThrowsMessage<ado::Error>(HasSubstr("MyBd")));
   EXPECT_THAT([&] { component->jShowNewLiqui(); }, ThrowsMessage<ado::Error>(HasSubstr("MyBd")));
   EXPECT_THAT(desktop.forms(), IsEmpty());
+}
+
+/// Place of a virtual operation in the table through which a host calls it, from 0.
+template <class Operation>
+std::size_t slotOf(Operation operation) {
+  std::size_t offset = 0;
+  static_assert(sizeof operation >= sizeof offset);
+  std::memcpy(&offset, &operation, sizeof offset);
+  return offset / sizeof(void*);
+}
+
+TEST_F(KorvanTest, TheOperationsKeepTheirSlots) {
+  using Set = void (KORVAN::*)(std::shared_ptr<plindor::BaseDatos>);
+  using Get = std::shared_ptr<plindor::BaseDatos> (KORVAN::*)() const;
+  EXPECT_THAT((std::vector{slotOf<Set>(&KORVAN::MyBd), slotOf<Get>(&KORVAN::MyBd),
+                           slotOf(&KORVAN::jShow), slotOf(&KORVAN::jShowNewLiqui),
+                           slotOf(&KORVAN::jShowInfLiqui), slotOf(&KORVAN::msComisionAgente)}),
+              ElementsAre(0, 1, 2, 3, 4, 5));
 }
 
 TEST_F(KorvanTest, TheLatestObjectServesEveryScreen) {
