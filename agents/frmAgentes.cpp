@@ -39,7 +39,7 @@ void frmAgentes::Form_Load() {
   oUtil = std::make_unique<plindor::UtilFormulario>();
   oUtil->ColorFoco = 65535;
   oUtil->ColorNormal = 16777215;
-  oUtil->Conexion(mdoKORVANTES::Conexion());
+  oUtil->Conexion(mdoKORVANTES::ConexionRetenida());
   cargaListas();
   msCargaAgentes();
   nIdAgente = 0;

@@ -1,6 +1,6 @@
 # korvantes_embed_text(OUTPUT SOURCE FILE HEADER header NAMESPACE namespace NAME constant)
-# Compiles a text file in as the std::string_view that the header declares. OUTPUT takes the path of
-# the C++ file, to be added to a target's sources.
+# Compiles a text file in, as the std::string_view that the header declares. Sets OUTPUT to the path
+# of the C++ file to add to a target's sources.
 function(korvantes_embed_text output)
   cmake_parse_arguments(PARSE_ARGV 1 embed "" "FILE;HEADER;NAMESPACE;NAME" "")
   get_filename_component(stem ${embed_FILE} NAME_WE)

@@ -1,4 +1,4 @@
-# The script behind korvantes_embed_text: writes the text INPUT into the C++ file OUTPUT.
+# Run by korvantes_embed_text: writes the text of the file INPUT into the C++ file OUTPUT.
 file(READ ${INPUT} text)
 file(
   WRITE ${OUTPUT}

@@ -1,5 +1,5 @@
-// component: the public class that a host loads, and the module through which the screens reach
-// the host's database service.
+// component: the public class of the library, and the module through which the screens reach the
+// host's database service.
 #pragma once
 
 #include <cstdint>
@@ -14,38 +14,44 @@ namespace korvantes {
 ///
 /// The class catches nothing: a failure while a screen is loaded, or of msComisionAgente, reaches
 /// the caller as an exception; without MyBd that is an ado::Error that says so.
-class KORVAN : public std::enable_shared_from_this<KORVAN> {
-  struct Key {};
-
+///
+/// Every operation is virtual and has a fixed slot, so that a host which loads the library with
+/// dlopen calls them without linking it; library/factory.h has the rules.
+class KORVAN {
  public:
   /// A new object, which also becomes the module's oComponente: from now on every screen works on
   /// its database service, also those opened through an older object.
   static std::shared_ptr<KORVAN> Create();
-  explicit KORVAN(Key) {}
 
-  /// Replaces the database service; nothing keeps a copy of the former one but open screens.
-  void MyBd(std::shared_ptr<plindor::BaseDatos> servicio) { miBd_ = std::move(servicio); }
+  KORVAN(const KORVAN&) = delete;
+  KORVAN& operator=(const KORVAN&) = delete;
+
+  /// Replaces the database service. A screen that is already open keeps the former one alive for
+  /// its search dialog until it is closed; everything else uses the new one from now on.
+  virtual void MyBd(std::shared_ptr<plindor::BaseDatos> servicio) = 0;
   /// What was set; nullptr before that.
-  const std::shared_ptr<plindor::BaseDatos>& MyBd() const { return miBd_; }
+  virtual std::shared_ptr<plindor::BaseDatos> MyBd() const = 0;
 
   /// Open a screen modally: the agent master, the settlement entry on an empty settlement, the
   /// settlement report. Return when the user has closed it. Each call makes a fresh form.
   /// @param nAgente has no effect: the agent master always opens on the whole list
-  void jShow(const std::int32_t& nAgente = 0);
-  void jShowNewLiqui();
-  void jShowInfLiqui();
+  virtual void jShow(const std::int32_t& nAgente = 0) = 0;
+  virtual void jShowNewLiqui() = 0;
+  virtual void jShowInfLiqui() = 0;
 
   /// Commission of a document in currency units.
   /// @param nOrigen 2 order, 3 delivery note; anything else is an error
   /// @param nId header key
   /// @param nIdLi line key, 0 for the whole document
   /// @return 0 for keys that match nothing
-  double msComisionAgente(const std::int16_t& nOrigen, const std::int32_t& nId,
-                          const std::int32_t& nIdLi);
+  virtual double msComisionAgente(const std::int16_t& nOrigen, const std::int32_t& nId,
+                                  const std::int32_t& nIdLi) = 0;
 
- private:
-  void Class_Initialize();
-  std::shared_ptr<plindor::BaseDatos> miBd_;
+ protected:
+  KORVAN() = default;
+  // Objects are owned by shared_ptr, whose deleter knows their class: a virtual destructor would
+  // take up slots.
+  ~KORVAN() = default;
 };
 
 }  // namespace korvantes

@@ -1,5 +1,6 @@
 #include "component/mdoKORVANTES.h"
 
+#include "component/component.h"
 #include "runtime/ado/error.h"
 
 namespace korvantes {
@@ -17,7 +18,7 @@ std::shared_ptr<KORVAN>& componente() {
 
 }  // namespace
 
-void KORVAN::Class_Initialize() {
+void Component::Class_Initialize() {
   componente() = shared_from_this();
 }
 
@@ -27,24 +28,34 @@ const std::shared_ptr<KORVAN>& oComponente() {
   return componente();
 }
 
-const std::shared_ptr<plindor::BaseDatos>& MyBd() {
+std::shared_ptr<plindor::BaseDatos> MyBd() {
   if (!oComponente()) {
     throw ado::Error(kReferenceNotSet, "No se ha creado todavía ningún componente KORVANTES");
   }
   return servicioDe(*oComponente());
 }
 
-const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente) {
-  if (!componente.MyBd()) {
+std::shared_ptr<plindor::BaseDatos> servicioDe(const KORVAN& componente) {
+  std::shared_ptr<plindor::BaseDatos> servicio = componente.MyBd();
+  if (!servicio) {
     throw ado::Error(kReferenceNotSet,
                      "El componente KORVANTES no tiene base de datos: hay que asignar MyBd antes "
                      "de usarlo");
   }
-  return componente.MyBd();
+  return servicio;
 }
 
 ado::Connection& Conexion() {
   return MyBd()->Conexion();
+}
+
+std::shared_ptr<ado::Connection> ConexionRetenida() {
+  const std::shared_ptr<plindor::BaseDatos> servicio = MyBd();
+  return {servicio, &servicio->Conexion()};
+}
+
+const char* version() {
+  return KORVANTES_VERSION;
 }
 
 std::string deshaz(ado::Transaction& transaccion) {

@@ -14,32 +14,39 @@ namespace korvantes::mdoKORVANTES {
 /// never cleared, so that it holds the object as long as the library stays loaded.
 const std::shared_ptr<KORVAN>& oComponente();
 
-/// MyBd of oComponente, fetched anew at each call. Throws ado::Error when there is no object or no
+/// MyBd of oComponente, fetched anew at each call. Throws ado::Error if there is no object or no
 /// service yet.
-const std::shared_ptr<plindor::BaseDatos>& MyBd();
+std::shared_ptr<plindor::BaseDatos> MyBd();
 
-/// MyBd of that object. Throws ado::Error when none was set yet.
-const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente);
+/// MyBd of that object. Throws ado::Error if none has been set yet.
+std::shared_ptr<plindor::BaseDatos> servicioDe(const KORVAN& componente);
 
-/// The connection of the service of oComponente.
+/// The connection of the service of oComponente, for one statement: nothing keeps it open.
 ado::Connection& Conexion();
 
-/// Undoes a transaction after a failure. Gives what the user must know if that fails too, after a
-/// line break; else the empty text.
+/// The same, together with its service, for as long as the pointer lives: what a screen keeps from
+/// its Form_Load on, whatever the host sets in the meantime.
+std::shared_ptr<ado::Connection> ConexionRetenida();
+
+/// Version of the library, "6.0.3".
+const char* version();
+
+/// Rolls a transaction back after a failure. Returns what the user must know if that fails too,
+/// after a line break; otherwise the empty text.
 std::string deshaz(ado::Transaction& transaccion);
 
-/// A tax number with its check letter, as the agent master completes it: a text that begins with a
-/// digit gets the letter of its digits, behind them or in place of the letter typed; one that
-/// begins with a letter stays as it is; one of fewer than two characters becomes empty. Blanks
-/// around are taken off first. More than eight digits have no letter: such a text stays as typed.
+/// Completes a tax number with its check letter, as the agent master does: a text that begins with
+/// a digit gets the letter of its digits, after them or in place of the letter typed; one that
+/// begins with a letter stays as it is; one of fewer than two characters becomes empty. Blanks at
+/// either end are removed first. More than eight digits have no letter: such a text stays as typed.
 std::string msCompletaNif(const std::string& sNif);
 
-/// Stores the picture that the control shows as that of the agent. A failure is told in a message
-/// box and leaves the stored picture as it was; nothing is thrown.
+/// Stores the picture that the control shows as that of the agent. A failure is reported in a
+/// message box and leaves the stored picture as it was; nothing is thrown.
 void msGuardaImagen(const std::int32_t& nId, const screen::Image& imagen);
 
-/// Shows the stored picture of the agent in the control, or nothing where there is none. A failure
-/// is told in a message box and leaves the control empty; nothing is thrown.
+/// Shows the stored picture of the agent in the control, which is left empty if there is none. A
+/// failure is reported in a message box and also leaves it empty; nothing is thrown.
 void msCargaImagen(const std::int32_t& nId, screen::Image& imagen);
 
 }  // namespace korvantes::mdoKORVANTES

@@ -12,7 +12,7 @@
 #include "desktop/look.h"
 #include "desktop/owned_child.h"
 #include "host/base_file_dialog.h"
-#include "host/version.h"
+#include "library/factory.h"
 #include "scripts/failure.h"
 
 namespace korvantes::host {
@@ -79,7 +79,7 @@ void DesktopWindow::addHeader(QVBoxLayout& layout) {
   words.addWidget(&title);
   words.addWidget(&makeChild<QLabel>(kSubject, &header));
   row.addLayout(&words, 1);
-  auto& version = makeChild<QLabel>("Versión " + toQt(kVersionText), &header);
+  auto& version = makeChild<QLabel>("Versión " + toQt(korvantes_version()), &header);
   row.addWidget(&version, 0, Qt::AlignBottom);
   layout.addWidget(&header);
 }
@@ -161,7 +161,7 @@ void DesktopWindow::makeSample(const std::string& path) {
 }
 
 void DesktopWindow::tellAbout() {
-  desktop_.messageBox({std::string(kTitle) + " " + std::string(kVersionText) + "\n" + kSubject +
+  desktop_.messageBox({std::string(kTitle) + " " + korvantes_version() + "\n" + kSubject +
                            "\n\nVentanas: Qt " + qVersion(),
                        screen::style::Information, "Acerca de KORVANTES"});
 }

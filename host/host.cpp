@@ -7,8 +7,8 @@
 
 #include "host/command_line.h"
 #include "host/orders.h"
-#include "host/version.h"
 #include "host/windows.h"
+#include "library/factory.h"
 #include "scripts/failure.h"
 
 namespace korvantes::host {
@@ -42,7 +42,7 @@ void run(const CommandLine& line, Streams streams) {
     return;
   }
   if (line.version) {
-    streams.out << kProgram << ' ' << kVersionText << '\n';
+    streams.out << kProgram << ' ' << korvantes_version() << '\n';
     return;
   }
   if (line.order.empty()) {

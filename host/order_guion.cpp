@@ -7,7 +7,6 @@
 #include "host/orders.h"
 #include "host/screens.h"
 #include "host/temporary_folder.h"
-#include "host/version.h"
 #include "host/windows.h"
 #include "sample/data.h"
 #include "sample/settlement_script.h"
@@ -35,7 +34,6 @@ void play(scripts::Stage& stage, std::string_view script, const CommandLine& lin
   screen::Desktop& desktop = stage.desktop();
   if (line.regional) desktop.regional(*line.regional);
   if (line.today) stage.clock = ado::Moment{*line.today, kNoon};
-  desktop.version(kVersion);
 
   const ComponentSession session(database);
   scripts::Player player(stage, *database.connection, screensOf(session.component()), out,

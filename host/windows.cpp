@@ -5,7 +5,6 @@
 #include "host/desktop_window.h"
 #include "host/display.h"
 #include "host/office_windows.h"
-#include "host/version.h"
 #include "scripts/failure.h"
 #include "scripts/windows/window_desktop.h"
 
@@ -31,7 +30,6 @@ void runDesktop(const CommandLine& line) {
   desktop::Application application;
   desktop::QtDesktop desktop;
   if (line.regional) desktop.regional(*line.regional);
-  desktop.version(kVersion);
   offerDocumentsOnWindows(desktop);
   // No screen may use the desktop once it is being destroyed.
   struct Current {

@@ -3,11 +3,12 @@
 #include <new>
 
 #include "component/KORVAN.h"
+#include "component/mdoKORVANTES.h"
 
 using Component = std::shared_ptr<korvantes::KORVAN>;
 
 const char* korvantes_version() {
-  return KORVANTES_VERSION;
+  return korvantes::mdoKORVANTES::version();
 }
 
 void* korvantes_create() {

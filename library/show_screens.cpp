@@ -1,7 +1,6 @@
-// What shows the screens: it stands above them, so that no screen and no class includes the other
-// way round.
+// Shows the screens. It is above them, so that neither a screen nor the class includes the other.
 #include "agents/frmAgentes.h"
-#include "component/KORVAN.h"
+#include "component/component.h"
 #include "report/frmLiquidAgentes.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
@@ -10,10 +9,10 @@ namespace korvantes {
 namespace {
 
 constexpr int kModal = 1;
-/// Marks the next release of Enter as used up: it is that of the key which opened the screen.
+/// The screen ignores the next release of Enter: it belongs to the key press that opened it.
 constexpr const char* kEnterUsed = "e";
 
-/// A fresh form at each call; it is gone when the user has closed it.
+/// Makes a fresh form and destroys it when the user has closed it.
 template <class Form>
 void muestra() {
   const auto formulario = std::make_unique<Form>();
@@ -23,15 +22,15 @@ void muestra() {
 
 }  // namespace
 
-void KORVAN::jShow(const std::int32_t&) {
+void Component::jShow(const std::int32_t&) {
   muestra<frmAgentes>();
 }
 
-void KORVAN::jShowNewLiqui() {
+void Component::jShowNewLiqui() {
   muestra<frmNewLiquidAgentes>();
 }
 
-void KORVAN::jShowInfLiqui() {
+void Component::jShowInfLiqui() {
   muestra<frmLiquidAgentes>();
 }
 

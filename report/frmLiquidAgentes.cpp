@@ -15,12 +15,6 @@ constexpr int kModal = 1;
 constexpr std::int32_t kPedirAgente = -1;
 constexpr const char* kTeclaEscape = "\x1b";
 
-std::string versionDelPrograma() {
-  const screen::ProgramVersion& version = screen::Desktop::current().version();
-  return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
-         std::to_string(version.revision);
-}
-
 }  // namespace
 
 frmLiquidAgentes::frmLiquidAgentes()
@@ -53,11 +47,11 @@ void frmLiquidAgentes::wire() {
 
 void frmLiquidAgentes::Form_Load() {
   oUtil = std::make_unique<plindor::UtilFormulario>();
-  oUtil->Conexion(mdoKORVANTES::Conexion());
+  oUtil->Conexion(mdoKORVANTES::ConexionRetenida());
   oUtil->ColorFoco = 65535;
   oUtil->ColorNormal = 16777215;
   sTituloForm = " Informe de liquidaciones a agentes";
-  Caption = sTituloForm + "(Versión " + versionDelPrograma() + ")";
+  Caption = sTituloForm + "(Versión " + mdoKORVANTES::version() + ")";
   rs = ado::Recordset();
   for (const auto& [index, box] : Text1.all()) box->Text = "";
   Option1(kPorFecha).Value = true;

@@ -54,7 +54,7 @@ void frmNewLiquidAgentes::wire() {
 
 void frmNewLiquidAgentes::Form_Load() {
   oUtil = std::make_unique<plindor::UtilFormulario>();
-  oUtil->Conexion(mdoKORVANTES::Conexion());
+  oUtil->Conexion(mdoKORVANTES::ConexionRetenida());
   oUtil->ColorFoco = 65535;
   oUtil->ColorNormal = 16777215;
   sTituloForm = "Liquidación de comisiones a agentes";

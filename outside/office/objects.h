@@ -1,5 +1,5 @@
-// outside/office: outside objects reached by a program identifier and by names of members, looked
-// up when they are called. Until a host registers such an object, creating it is a clear error.
+// outside/office: outside objects, reached by a program identifier and by the names of their
+// members, which are looked up at each call. Creating one that no host has registered is an error.
 #pragma once
 
 #include <functional>
@@ -22,15 +22,15 @@ class Desktop;
 
 namespace korvantes::office {
 
-/// An argument left out.
+/// An omitted argument.
 struct Omitted {};
 
-/// What passes to a member: a value, or a reference to one of the objects both sides know.
+/// What a member takes: a value, or a reference to one of the objects that both sides know.
 using Argument = std::variant<Omitted, ado::Variant, ado::Recordset,
                               std::shared_ptr<plindor::BaseDatos>, screen::Control*>;
 
-/// An object whose members are found by name, without regard to case. A member that it does not
-/// have, or arguments that do not fit, are an ado::Error.
+/// An object whose members are found by name, ignoring case. An unknown member and arguments that
+/// do not fit are an ado::Error.
 class Object {
  public:
   virtual ~Object() = default;
@@ -38,23 +38,23 @@ class Object {
   virtual ado::Variant call(std::string_view method, const std::vector<Argument>& arguments) = 0;
 };
 
-/// The objects a host offers.
+/// The objects that a host offers.
 class Registry {
  public:
   using Factory = std::function<std::unique_ptr<Object>()>;
-  /// Replaces an earlier registration of that identifier.
+  /// Replaces any earlier registration of the identifier.
   void add(std::string programId, Factory factory);
-  /// Without regard to case. Throws ado::Error 429 when nothing is registered under it.
+  /// Ignores case. Throws ado::Error 429 if nothing is registered under the identifier.
   std::unique_ptr<Object> create(std::string_view programId) const;
 
  private:
   std::vector<std::pair<std::string, Factory>> factories_;
 };
 
-/// The objects that a host offers on a desktop.
+/// The objects offered on a desktop.
 Registry& objectsOf(screen::Desktop& desktop);
 
-/// Creates an object that the current desktop's registry offers.
+/// Creates an object from the registry of the current desktop.
 std::unique_ptr<Object> CreateObject(std::string_view programId);
 
 }  // namespace korvantes::office

@@ -8,7 +8,7 @@ namespace korvantes::plindor {
 
 namespace {
 
-/// True when the text begins with WHERE as a word of its own.
+/// True if the text begins with the word WHERE and goes on after it.
 bool esCondicion(std::string_view texto) {
   constexpr std::string_view kWhere = "WHERE";
   texto = ado::trimmed(texto);
@@ -17,7 +17,7 @@ bool esCondicion(std::string_view texto) {
          !esNombre(texto.substr(kWhere.size(), 1));
 }
 
-/// Why the statement cannot be built; empty when it can.
+/// Why the statement cannot be built; empty if it can.
 std::string faltaTabla(const std::string& tabla) {
   if (tabla.empty()) return "No se ha indicado la tabla";
   if (!esNombreDeTabla(tabla)) return "«" + tabla + "» no es un nombre de tabla";
@@ -33,7 +33,7 @@ std::string faltanCampos(const ListaCampos& campos) {
   return campos.campos().empty() ? "No se ha indicado ninguna columna" : "";
 }
 
-/// The condition, with a blank in front of it.
+/// The condition with a leading blank.
 std::string detras(const std::string& condicion) {
   return (condicion.front() == ' ' ? "" : " ") + condicion;
 }

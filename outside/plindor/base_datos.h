@@ -1,5 +1,5 @@
-// outside/plindor: the host's database service and the helpers of its forms, as the component uses
-// them. Text values are quoted here, and only here.
+// outside/plindor: the host's database service and the helper of its forms, as the component uses
+// them. Text values are quoted here and nowhere else.
 #pragma once
 
 #include <memory>
@@ -18,25 +18,25 @@ class BaseDatos {
   /// Throws ado::Error without a connection.
   explicit BaseDatos(std::shared_ptr<ado::Connection> conexion);
 
-  /// Forgets condition and columns; the table stays, as some callers name it first. The number is
-  /// always 0.
+  /// Clears the condition and the columns but not the table, which some callers set first. The
+  /// argument is always 0.
   void LimpiaSentencia(long nReservado = 0);
 
   std::string Tabla;  ///< table of the statement
-  /// Text behind the statement, " WHERE …"; empty or a blank for an insert.
+  /// Text that ends the statement, " WHERE …"; empty or blank for an insert.
   std::string Condicion;
-  ListaCampos Campos;  ///< its columns
+  ListaCampos Campos;  ///< columns of the statement
 
   ado::Connection& Conexion() const { return *conexion_; }
 
-  /// Run the statement on Conexion, inside its open transaction if there is one. True when it is
-  /// done; on False sError holds the engine's words. Deleting or updating without a condition is
-  /// refused (False), so that a forgotten condition never empties a table. A statement that cannot
-  /// be built (no table, no columns) gives False too.
+  /// Run the statement on Conexion, inside its open transaction if there is one. True if it
+  /// succeeds; on False sError says why. Deletes and updates without a condition are refused, so
+  /// that a forgotten condition never empties a table, and so is a statement that cannot be built
+  /// (no table, no columns).
   bool BorraFilas(std::string& sError);
   bool ActualizaFilas(std::string& sError);
   bool InsertaFila(std::string& sError, std::optional<long> nReservado = std::nullopt);
-  /// Rows that the last statement sent has changed; 0 when it failed.
+  /// Number of rows changed by the last statement sent; 0 if it failed.
   long long FilasAfectadas() const { return filasAfectadas_; }
 
  private:

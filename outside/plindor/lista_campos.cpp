@@ -22,7 +22,7 @@ using Kind = Variant::Kind;
 
 constexpr const char* kNulo = "Null";
 
-/// As a user reads it in a message: short and in one piece.
+/// The value for a message to the user: short, on one line.
 std::string citado(const Variant& valor) {
   if (valor.kind() == Kind::Bytes) return "datos binarios";
   return "«" + ado::subjectOf(screen::CStr(valor)) + "»";
@@ -32,8 +32,8 @@ std::string citado(const Variant& valor) {
   throw ado::ConversionError(campo + ": " + citado(valor) + " " + motivo);
 }
 
-/// Digits with an optional minus sign, and nothing else. A text of digits that fits no 64 bits
-/// counts as the largest number, so that it is told from a text that is no number.
+/// Accepts digits with an optional minus sign and nothing else. A number beyond 64 bits counts as
+/// the largest one, so that it is not mistaken for a text that is not a number.
 std::optional<std::int64_t> enteroDeTexto(std::string_view texto) {
   texto = ado::trimmed(texto);
   std::int64_t numero = 0;
@@ -105,7 +105,7 @@ std::string escribeDoble(const std::string& campo, const Variant& valor, int nDe
   rechaza(campo, valor, "no es un número");
 }
 
-/// Between single quotes, quotes inside doubled.
+/// Puts the text in single quotes and doubles the quotes inside it.
 std::string entrecomilla(std::string_view texto) {
   std::string salida = "'";
   for (const char c : texto) {
@@ -119,7 +119,7 @@ std::string escribeTexto(const std::string& campo, const Variant& valor) {
   static const screen::Regional conPunto = screen::Regional::named("en-US");
   switch (valor.kind()) {
     case Kind::Text:
-      // Engines take the end of a statement there, in the middle of the text.
+      // Engines end the statement there, in the middle of the text.
       if (valor.text().find('\0') != std::string::npos) {
         throw ado::ConversionError(campo + ": el texto contiene un carácter nulo");
       }

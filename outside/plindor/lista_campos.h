@@ -7,28 +7,28 @@
 
 namespace korvantes::plindor {
 
-/// The columns of a statement being built.
+/// The columns of a statement that is being built.
 class ListaCampos {
  public:
-  /// What a value is, and so how it is written: see AgregaCampo.
+  /// Type of a value, which decides how it is written; see AgregaCampo.
   enum Tipo : long { Entero = 1, Doble = 2, Texto = 3, Fecha = 4, Literal = 6 };
 
   struct Campo {
     std::string nombre;
-    std::string valor;  ///< as it stands in the statement
+    std::string valor;  ///< as written in the statement
   };
 
-  /// Adds a column with its value as the statement will carry it:
-  ///  1 whole number of 32 bits, from a number or its digits: bare digits;
-  ///  2 number, from a number or from a text under the regional settings: a point and `nDecimales`
-  ///    places, rounded half away from zero at 15 significant digits;
-  ///  3 text: between single quotes, quotes inside doubled;
-  ///  4 date as text dd/mm/yyyy: between single quotes; a text that is no date is refused;
-  ///  6 literal: only "Null", in any case.
-  /// A Null value is written as Null whatever the type.
-  /// Throws ado::ConversionError naming the column for a value that is none of its type, so that
-  /// nothing but digits, a date or quoted text ever reaches a statement; the column's name too must
-  /// be a plain name.
+  /// Adds a column and its value in the form that the statement needs:
+  ///  1 whole number of 32 bits, given as a number or as digits: bare digits;
+  ///  2 number, given as a number or as text under the regional settings: a decimal point and
+  ///    `nDecimales` places, rounded half away from zero at 15 significant digits;
+  ///  3 text: in single quotes, with quotes inside doubled;
+  ///  4 date, given as text dd/mm/yyyy: in single quotes;
+  ///  6 literal: only "Null", in upper or lower case.
+  /// A Null value is written as Null whatever its type.
+  /// Throws ado::ConversionError, which names the column, for a value that is not of its type or a
+  /// column name that is not a plain name, so that only digits, dates and quoted text ever reach a
+  /// statement.
   void AgregaCampo(const std::string& sCampo, long nTipo, const ado::Variant& vValor,
                    int nDecimales);
 

@@ -4,11 +4,10 @@
 
 namespace korvantes::plindor {
 
-/// True for a plain name of a column: ASCII letters, digits and underscores, not beginning with a
-/// digit.
+/// True for a plain column name: ASCII letters, digits and underscores, not starting with a digit.
 bool esNombre(std::string_view texto);
 
-/// True for a name of a table, alone or behind its database and owner ("Vespara.dbo.Tivas").
+/// True for a table name, alone or after its database and owner ("Vespara.dbo.Tivas").
 bool esNombreDeTabla(std::string_view texto);
 
 }  // namespace korvantes::plindor

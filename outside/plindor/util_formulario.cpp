@@ -15,12 +15,12 @@ namespace korvantes::plindor {
 
 namespace {
 
-/// Between the columns of a row that BuscaEnLista gives.
+/// Separates the columns of a row that BuscaEnLista returns.
 constexpr char kSeparador = 1;
 constexpr std::string_view kMascaraFecha = "dd/mm/yyyy";
 /// Below this, keys are control characters: Backspace, Tab, Enter, Escape.
 constexpr int kPrimerCaracter = 32;
-/// Decimal digits that a double holds for sure.
+/// Decimal digits that every double preserves.
 constexpr int kDigitos = 15;
 
 /// The date in a field: ddmmyyyy, ddmmyy or with separators.
@@ -34,7 +34,7 @@ std::optional<ado::Date> fechaDe(std::string_view texto) {
   return screen::toDate(dia + '/' + mes + '/' + anno);
 }
 
-/// The text written in the mask; as it is when it does not fit.
+/// The text formatted by the mask; unchanged if it does not fit.
 std::string conMascara(const std::string& texto, std::string_view mascara) {
   if (ado::sameName(mascara, kMascaraFecha)) {
     const std::optional<ado::Date> fecha = fechaDe(texto);
@@ -44,7 +44,7 @@ std::string conMascara(const std::string& texto, std::string_view mascara) {
   return numero ? screen::Format(*numero, mascara) : texto;
 }
 
-/// The text of the field without what is selected, which the next character replaces.
+/// The text of the field without its selection, which the next character replaces.
 std::u32string restoDe(const screen::TextBox& control) {
   std::u32string texto = ado::toCodePoints(control.Text());
   const auto limite = static_cast<int>(texto.size());
@@ -54,7 +54,7 @@ std::u32string restoDe(const screen::TextBox& control) {
   return texto;
 }
 
-/// What the field may hold of a text that came in whole.
+/// The characters of the text that the field accepts.
 std::string depurado(const std::string& texto, bool soloDigitos, char separador) {
   std::string salida;
   bool separado = false;
@@ -95,10 +95,10 @@ double UtilFormulario::Redondea(double dValor, long nDecimales) const {
   if (nDecimales < 0) throw ado::ConversionError("No se puede redondear a menos de 0 decimales");
   if (!std::isfinite(dValor)) throw ado::ConversionError("El valor no es un número");
   if (dValor == 0) return 0;
-  // Of numbers this large, the fifteenth digit stands before the point.
+  // The fifteenth digit of numbers this large is to the left of the point.
   if (std::fabs(dValor) >= 1e15) return dValor;
-  // Places behind the last significant digit are zeros: leaving them out keeps the exact decimal
-  // within its range.
+  // Places after the last significant digit are zeros; omitting them keeps the exact decimal within
+  // its range.
   const auto orden = static_cast<long>(std::floor(std::log10(std::fabs(dValor))));
   const long lugares = std::min({nDecimales, kDigitos - orden, long{ado::Decimal::kMaxScale}});
   return ado::decimalFromDouble(dValor, static_cast<int>(lugares)).toDouble();
@@ -116,7 +116,7 @@ void UtilFormulario::AlRecibirFoco(screen::TextBox& oControl, std::string_view /
 
 void UtilFormulario::AlCambiarTexto(screen::TextBox& oControl, ado::Variant& /*nEstado*/,
                                     bool bFlag, const std::string& /*sVacio*/) const {
-  // A stored value that the program shows is never shortened: saving the form would lose it.
+  // A stored value shown by the program is never shortened: saving the form would lose the rest.
   if (oControl.form().ActiveControl() != &oControl) return;
   const std::string limpio =
       depurado(oControl.Text(), bFlag, screen::currentRegional().decimalSeparator);
@@ -140,7 +140,7 @@ std::string UtilFormulario::BuscaEnLista(const std::string& sSql, const std::str
                                          const std::string& sCol1, const std::string& sCol2,
                                          const std::string& sTitulo, long nAncho1, long nAncho2,
                                          long /*n0*/) const {
-  if (conexion_ == nullptr) throw ado::Error(0, "La búsqueda no tiene conexión a la base de datos");
+  if (!conexion_) throw ado::Error(0, "La búsqueda no tiene conexión a la base de datos");
   const ado::Recordset filas = conexion_->Execute(sSql + " ORDER BY " + sOrden);
   const std::size_t columnas = filas.Fields().Count();
   if (columnas < 3) {

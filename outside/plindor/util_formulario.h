@@ -3,13 +3,14 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "runtime/ado/connection.h"
 #include "runtime/screen/controls.h"
 
 namespace korvantes::plindor {
 
-/// What every form asks of its fields: focus colours, key filter, masks, rounding, the search
+/// What every form needs for its fields: focus colours, key filter, masks, rounding, the search
 /// dialog, the letter of a tax number.
 class UtilFormulario {
  public:
@@ -17,51 +18,54 @@ class UtilFormulario {
   double ColorFoco = 65535;
   double ColorNormal = 16777215;
 
-  void Conexion(ado::Connection& conexion) { conexion_ = &conexion; }
+  /// The connection that BuscaEnLista searches. It stays open for as long as this object lives,
+  /// whatever becomes of the service it came from.
+  void Conexion(std::shared_ptr<ado::Connection> conexion) { conexion_ = std::move(conexion); }
 
-  /// Check letter of a Spanish tax number (NIF): number modulo 23 into "TRWAGMYFPDXBNJZSQVHLCKE".
-  /// Digits alone count; a leading X, Y or Z stands for 0, 1, 2. Without digits, or with more than
-  /// eight, there is no letter: sVacio is given back.
+  /// Check letter of a Spanish tax number (NIF): the number modulo 23, as an index into
+  /// "TRWAGMYFPDXBNJZSQVHLCKE". Only digits count; a leading X, Y or Z means 0, 1, 2. Returns
+  /// sVacio for no digits or more than eight, which have no letter.
   std::string LetraNif(const std::string& sNif, const std::string& sVacio) const;
 
-  /// Rounds the decimal that the double stands for at 15 significant digits, half away from zero:
-  /// 1.005 gives 1.01, 2.925 gives 2.93, -0.005 gives -0.01; never a negative zero. From 1E+15 on
-  /// a number has no decimals to round and stays as it is. Throws ado::ConversionError for
-  /// infinities, NaN and a negative number of decimals.
+  /// Rounds the double's 15 significant decimal digits half away from zero: 1.005 gives 1.01,
+  /// 2.925 gives 2.93, -0.005 gives -0.01; never a negative zero. Numbers from 1E+15 on have no
+  /// decimals to round and are returned unchanged. Throws ado::ConversionError for infinities, NaN
+  /// and a negative number of decimals.
   double Redondea(double dValor, long nDecimales) const;
 
-  /// Shows the field as unfocused. With a mask, its text is then written in it: "dd/mm/yyyy" takes
-  /// eight or six bare digits (ddmmyyyy, ddmmyy) or a date with separators; "0.000" and its like
-  /// take a number. A text that is neither stays as it is, and so does the empty text.
+  /// Shows the field as unfocused. A mask then reformats its text: "dd/mm/yyyy" takes eight or six
+  /// bare digits (ddmmyyyy, ddmmyy) or a date with separators, "0.000" and the like take a number.
+  /// Any other text, and the empty one, is left unchanged.
   void AlPerderFoco(screen::TextBox& oControl, std::string_view sFormato) const;
   /// Shows the field as focused.
   void AlRecibirFoco(screen::TextBox& oControl, std::string_view sFormato) const;
 
-  /// After a change of the text: takes out what does not belong into the field, should it have come
-  /// in by another way than the keys. bFlag True: all but digits. False: all but digits and one
-  /// decimal separator. Only while the field has the focus: a stored value that the program shows
-  /// elsewhere stays whole, so that saving it again loses nothing. nEstado and sVacio are the
-  /// handler's own and are left alone.
+  /// After a change of the text, removes what the key filter would not have let in (pasted text,
+  /// for instance). bFlag True: everything but digits. False: everything but digits and one decimal
+  /// separator. Does nothing unless the field has the focus: a stored value that the program shows
+  /// stays whole, so that saving it again loses nothing. nEstado and sVacio belong to the handler
+  /// and are not used.
   void AlCambiarTexto(screen::TextBox& oControl, ado::Variant& nEstado, bool bFlag,
                       const std::string& sVacio) const;
 
-  /// Refuses a key by setting it to 0. bFlag True (dates, postal codes): digits and "/". False
-  /// (numbers): digits and one decimal separator of the regional settings, for which the point
-  /// stands in. Control characters (below 32) always pass.
+  /// Refuses a key by setting it to 0. bFlag True (dates, postal codes): digits and "/" pass. False
+  /// (numbers): digits and one decimal separator pass; a point becomes the separator of the
+  /// regional settings. Control characters (below 32) always pass.
   void FiltraTecla(const screen::TextBox& oControl, int& nTecla, bool bFlag) const;
 
-  /// Modal list over a statement "Select (0),Code,Name FROM …", ordered by sOrden. Gives the chosen
-  /// row's columns joined by the character 1, or an empty text when none was chosen. Widths are in
-  /// twips. Throws ado::Error when the statement fails or Conexion was never set.
+  /// Shows a modal list of the rows of "Select (0),Code,Name FROM …", ordered by sOrden. Returns
+  /// the columns of the chosen row, joined by the character 1, or an empty text if the user
+  /// cancels. Widths are in twips. Throws ado::Error if the statement fails or Conexion was never
+  /// set.
   std::string BuscaEnLista(const std::string& sSql, const std::string& sOrden,
                            const std::string& sCol1, const std::string& sCol2,
                            const std::string& sTitulo, long nAncho1, long nAncho2, long n0) const;
 
  private:
-  ado::Connection* conexion_ = nullptr;
+  std::shared_ptr<ado::Connection> conexion_;
 };
 
-/// Column of a row that BuscaEnLista gave, from 0.
+/// A column, from 0, of a row returned by BuscaEnLista.
 std::string elementoDe(const std::string& sFila, int nColumna);
 
 }  // namespace korvantes::plindor

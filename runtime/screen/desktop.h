@@ -49,10 +49,6 @@ struct FileDialog {
   std::string filter;  ///< "Description|*.a;*.b", pairs joined by |
 };
 
-struct ProgramVersion {
-  int major = 0, minor = 0, revision = 0;
-};
-
 /// Everything that screens need from the machine: windows, dialogs, keys, clock, pictures. One is
 /// current at a time; a host makes one current before it shows anything.
 class Desktop {
@@ -90,8 +86,6 @@ class Desktop {
 
   const Regional& regional() const { return regional_; }
   void regional(Regional settings) { regional_ = std::move(settings); }
-  const ProgramVersion& version() const { return version_; }
-  void version(ProgramVersion value) { version_ = value; }
   /// Title of message boxes that do not set one.
   static constexpr std::string_view kDefaultTitle = "KORVANTES";
 
@@ -106,7 +100,6 @@ class Desktop {
 
  private:
   Regional regional_ = Regional::ofMachine();
-  ProgramVersion version_;
   int mousePointer_ = 0;
   std::map<std::type_index, std::shared_ptr<void>> attached_;
 };

@@ -1,5 +1,6 @@
 #include "component/KORVAN.h"
 
+#include <cstring>
 #include <gmock/gmock.h>
 
 #include "component/mdoKORVANTES.h"
@@ -7,6 +8,8 @@
 #include "scripts/headless_desktop.h"
 #include "scripts/key_names.h"
 #include "tests/support/recording_connection.h"
+#include "tests/support/screen_world.h"
+#include "tests/support/temporary_database.h"
 
 namespace korvantes {
 namespace {
@@ -18,7 +21,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-using testing::StartsWith;
 using testing::ThrowsMessage;
 
 struct KorvanTest : testing::Test {
@@ -49,6 +51,24 @@ TEST_F(KorvanTest, SaysWhatIsMissingBeforeTheDatabaseServiceIsSet) {
   EXPECT_THAT(desktop.forms(), IsEmpty());
 }
 
+/// Place of a virtual operation in the table through which a host calls it, from 0.
+template <class Operation>
+std::size_t slotOf(Operation operation) {
+  std::size_t offset = 0;
+  static_assert(sizeof operation >= sizeof offset);
+  std::memcpy(&offset, &operation, sizeof offset);
+  return offset / sizeof(void*);
+}
+
+TEST_F(KorvanTest, TheOperationsKeepTheirSlots) {
+  using Set = void (KORVAN::*)(std::shared_ptr<plindor::BaseDatos>);
+  using Get = std::shared_ptr<plindor::BaseDatos> (KORVAN::*)() const;
+  EXPECT_THAT((std::vector{slotOf<Set>(&KORVAN::MyBd), slotOf<Get>(&KORVAN::MyBd),
+                           slotOf(&KORVAN::jShow), slotOf(&KORVAN::jShowNewLiqui),
+                           slotOf(&KORVAN::jShowInfLiqui), slotOf(&KORVAN::msComisionAgente)}),
+              ElementsAre(0, 1, 2, 3, 4, 5));
+}
+
 TEST_F(KorvanTest, TheLatestObjectServesEveryScreen) {
   const auto first = KORVAN::Create();
   first->MyBd(serviceOn(one));
@@ -72,15 +92,56 @@ TEST_F(KorvanTest, TheLatestObjectServesEveryScreen) {
   EXPECT_EQ(one->calls.size(), 1U);
 }
 
-TEST_F(KorvanTest, EveryDataAccessFetchesTheServiceAnew) {
-  const auto component = KORVAN::Create();
-  component->MyBd(serviceOn(one));
-  const std::weak_ptr<plindor::BaseDatos> replaced = component->MyBd();
-  component->MyBd(serviceOn(two));
-  EXPECT_TRUE(replaced.expired());
-  mdoKORVANTES::Conexion().Execute("SELECT 1");
-  EXPECT_THAT(one->calls, IsEmpty());
-  EXPECT_THAT(two->calls, ElementsAre("SELECT 1"));
+/// A database of two agents that remembers the statements it was asked.
+struct Office {
+  Office() {
+    for (const char* agent : {"1,'Ana'", "2,'Blas'"})
+      base.connection()->Execute("INSERT INTO Age (AGE_ID,AGE_NOM) VALUES (" + std::string(agent) +
+                                 ")");
+  }
+  std::shared_ptr<plindor::BaseDatos> service() {
+    const auto link = std::make_shared<support::ScreenLink>(base.connection());
+    link->onStatement = [this](std::string_view statement) { asked.emplace_back(statement); };
+    return std::make_shared<plindor::BaseDatos>(link);
+  }
+
+  support::TemporaryDatabase base;
+  std::vector<std::string> asked;
+};
+
+TEST_F(KorvanTest, AnOpenScreenKeepsTheServiceOfItsSearchDialogAndAsksTheNewOneForAllElse) {
+  struct Case {
+    void (*show)(KORVAN&);
+    const char* button;     ///< what the user clicks after choosing the agent
+    const char* statement;  ///< the first one that the new service gets
+  };
+  const Case cases[] = {
+      {[](KORVAN& component) { component.jShow(); }, nullptr, "select AGE_IMG"},
+      {[](KORVAN& component) { component.jShowNewLiqui(); }, nullptr, "SELECT Age_ID"},
+      {[](KORVAN& component) { component.jShowInfLiqui(); }, "cmdBuscar", "Select Age_ID"},
+  };
+  desktop.onList = [](const screen::ListDialog&) {
+    return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{1};
+  };
+  Office earlier, later;
+  for (const Case& test : cases) {
+    const auto component = KORVAN::Create();
+    component->MyBd(earlier.service());
+    const std::weak_ptr<plindor::BaseDatos> replaced = component->MyBd();
+    desktop.whileShown = [&](screen::Form& form) {
+      earlier.asked.clear();
+      later.asked.clear();
+      component->MyBd(later.service());
+      desktop.stroke(*screen::keyNamed("F1"));
+      if (test.button != nullptr) desktop.user().click(*form.findControl(test.button));
+      EXPECT_THAT(earlier.asked, ElementsAre(HasSubstr(" ORDER BY "))) << form.name();
+      ASSERT_THAT(later.asked, Not(IsEmpty())) << form.name();
+      EXPECT_THAT(later.asked.front(), testing::StartsWith(test.statement)) << form.name();
+      form.Unload();
+    };
+    test.show(*component);
+    EXPECT_TRUE(replaced.expired());
+  }
 }
 
 TEST_F(KorvanTest, EachShowOpensAFreshFormWithTheEnterMarkerAndDropsIt) {

@@ -150,7 +150,7 @@ TEST_F(UtilFormularioTest, CleansTheFieldBeingEditedAndNoStoredValue) {
 }
 
 TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
-  support::RecordingConnection connection;
+  const auto connection = std::make_shared<support::RecordingConnection>();
   util.Conexion(connection);
   std::vector<std::string> shown;
   std::optional<std::size_t> choice;
@@ -161,7 +161,7 @@ TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
     return scripts::Reply<std::optional<std::size_t>>{choice};
   };
   const auto search = [&] {
-    connection.answer(support::resultOf(
+    connection->answer(support::resultOf(
         {"k", "AGE_ID", "AGE_NOM"}, {0, 12, "Ana Ruiz", 0, 7, ado::Variant(), 0, 3, "Zoe Peña"}));
     return util.BuscaEnLista("Select (0) as k ,AGE_ID,AGE_NOM FROM AGE", "AGE_NOM", "Codigo",
                              "Nombre", "Buscar", 800, 6000, 0);
@@ -174,15 +174,15 @@ TEST_F(UtilFormularioTest, OffersTheRowsInOrderAndGivesTheChosenOne) {
             "Zoe Peña");
   EXPECT_THAT(shown, ElementsAre("Buscar", "Codigo", "Nombre", "800", "6000", "12=Ana Ruiz",
                                  "7=", "3=Zoe Peña"));
-  EXPECT_EQ(connection.calls.at(1), "Select (0) as k ,AGE_ID,AGE_NOM FROM AGE ORDER BY AGE_NOM");
+  EXPECT_EQ(connection->calls.at(1), "Select (0) as k ,AGE_ID,AGE_NOM FROM AGE ORDER BY AGE_NOM");
 }
 
 TEST_F(UtilFormularioTest, SaysWhyASearchCannotRun) {
   const auto search = [&] { util.BuscaEnLista("Select 1", "1", "", "", "", 0, 0, 0); };
   EXPECT_THROW(search(), ado::Error);
-  support::RecordingConnection connection;
-  connection.answer(ado::Error(208, "No existe la tabla Age"));
-  connection.answer(support::resultOf({"k", "c"}, {0, 1}));
+  const auto connection = std::make_shared<support::RecordingConnection>();
+  connection->answer(ado::Error(208, "No existe la tabla Age"));
+  connection->answer(support::resultOf({"k", "c"}, {0, 1}));
   util.Conexion(connection);
   EXPECT_THAT(search, testing::ThrowsMessage<ado::Error>("No existe la tabla Age"));
   EXPECT_THAT(search, testing::ThrowsMessage<ado::Error>(HasSubstr("un código y un nombre")));

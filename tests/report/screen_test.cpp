@@ -44,8 +44,7 @@ TEST(SearchScreen, AFailureOfTheDatabaseIsToldAndTheNextSearchWorks) {
         world.connection->failAt(call, ado::Error(1, "sin conexión"));
         screen.search();
         EXPECT_THAT(world.messages,
-                    ElementsAre("[16]  Informe de liquidaciones a agentes(Versión 0.0.0) | sin "
-                                "conexión"));
+                    ElementsAre("[16] " + screen.form.Caption() + " | sin conexión"));
         EXPECT_FALSE(screen.canPrint() || screen.canExport());
         EXPECT_THAT(screen.rows(), IsEmpty());
       }
