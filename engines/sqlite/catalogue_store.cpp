@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "engines/tsql/compiler.h"
+#include "engines/tsql/quoted_names.h"
 
 namespace korvantes::sqlite {
 
@@ -14,7 +15,7 @@ std::string schemaOf(const std::string& database) {
 }
 
 std::string storeIn(const std::string& database) {
-  return quoted(schemaOf(database)) + ".korvantes_schema";
+  return tsql::qualifiedName(schemaOf(database), "korvantes_schema");
 }
 
 std::string textAt(const Statement& statement) {
@@ -31,11 +32,11 @@ std::int64_t CatalogueStore::number(const std::string& text) {
 
 tsql::Catalogue CatalogueStore::load() {
   const auto catalogue = std::make_shared<tsql::Catalogue>();
-  tsql::Compiler compiler(tsql::Compiler::Engine::SQLite, catalogue);
+  tsql::Compiler compiler(catalogue);
   std::vector<std::string> databases{"main"};
   if (database_->hasPartner()) databases.emplace_back("Vespara");
   for (const std::string& database : databases) {
-    if (number("SELECT count(*) FROM " + quoted(database) +
+    if (number("SELECT count(*) FROM " + tsql::quotedName(database) +
                ".sqlite_master WHERE type = 'table' AND name = 'korvantes_schema'") == 0) {
       continue;
     }

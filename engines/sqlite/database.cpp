@@ -180,13 +180,4 @@ void Transaction::requireNotLost(std::string_view subject) const {
                    subject);
 }
 
-std::string quoted(std::string_view name) {
-  std::string text = "\"";
-  for (const char c : name) {
-    if (c == '"') text += '"';
-    text += c;
-  }
-  return text + '"';
-}
-
 }  // namespace korvantes::sqlite

@@ -94,7 +94,4 @@ class Transaction {
   mutable bool begun_ = false;
 };
 
-/// A name as SQLite reads it whatever it is made of.
-std::string quoted(std::string_view name);
-
 }  // namespace korvantes::sqlite

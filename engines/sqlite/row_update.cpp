@@ -1,7 +1,6 @@
 #include "engines/sqlite/row_update.h"
 
-#include <limits>
-
+#include "engines/tsql/quoted_names.h"
 #include "runtime/ado/text_order.h"
 #include "runtime/ado/utf8.h"
 
@@ -104,18 +103,19 @@ void RowUpdate::write(const std::vector<std::pair<std::string, ado::Variant>>& c
       throw ado::Error(kCannotUpdate, "La columna " + column.name + " la numera la base de datos");
     }
     values.push_back(storedValue(column, value));
-    assignments += (assignments.empty() ? "" : ", ") + quoted(column.name) + " = ?" +
+    assignments += (assignments.empty() ? "" : ", ") + tsql::quotedName(column.name) + " = ?" +
                    std::to_string(values.size());
   }
   std::string condition;
   for (std::size_t i = 0; i < key_.size(); ++i) {
     values.push_back(key_[i]);
-    condition += (i == 0 ? "" : " AND ") + quoted(columnNamed(table_, table_.primaryKey[i]).name) +
-                 " = ?" + std::to_string(values.size());
+    condition += (i == 0 ? "" : " AND ") +
+                 tsql::quotedName(columnNamed(table_, table_.primaryKey[i]).name) + " = ?" +
+                 std::to_string(values.size());
   }
   const std::string schema = table_.database.empty() ? "main" : table_.database;
   Statement update(session->database,
-                   "UPDATE " + quoted(schema) + '.' + quoted(table_.name) + " SET " + assignments +
+                   "UPDATE " + tsql::qualifiedName(schema, table_.name) + " SET " + assignments +
                        " WHERE " + condition,
                    subject);
   for (std::size_t i = 0; i < values.size(); ++i) update.bind(static_cast<int>(i) + 1, values[i]);

@@ -48,7 +48,7 @@ struct SqliteConnection::Impl {
   std::shared_ptr<Session> session;
   CatalogueStore store;
   std::shared_ptr<tsql::Catalogue> catalogue = std::make_shared<tsql::Catalogue>();
-  tsql::Compiler compiler{tsql::Compiler::Engine::SQLite, catalogue};
+  tsql::Compiler compiler{catalogue};
   std::pair<std::int64_t, std::int64_t> catalogueVersion;
   bool definedInTransaction = false;
 
@@ -196,14 +196,6 @@ ado::Recordset SqliteConnection::OpenForUpdate(std::string_view text) {
 
 bool SqliteConnection::hasTables() const {
   return impl_->store.anyTable();
-}
-
-std::size_t SqliteConnection::cacheHits() const {
-  return impl_->compiler.hits();
-}
-
-std::size_t SqliteConnection::cacheMisses() const {
-  return impl_->compiler.misses();
 }
 
 }  // namespace korvantes::sqlite

@@ -44,10 +44,6 @@ class SqliteConnection : public ado::Connection {
   /// True when the file or its partner holds at least one table, of ours or of somebody else's.
   bool hasTables() const;
 
-  /// Figures for benchmarks: texts that found their statement prepared, and texts compiled.
-  std::size_t cacheHits() const;
-  std::size_t cacheMisses() const;
-
  private:
   struct Impl;
   std::unique_ptr<Impl> impl_;

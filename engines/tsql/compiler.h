@@ -58,9 +58,7 @@ struct BoundStatement {
 /// name, types that do not go together, a literal that is no date or does not fit.
 class Compiler {
  public:
-  enum class Engine { SQLite };
-
-  Compiler(Engine engine, std::shared_ptr<Catalogue> catalogue);
+  explicit Compiler(std::shared_ptr<Catalogue> catalogue);
   ~Compiler();
   Compiler(const Compiler&) = delete;
   Compiler& operator=(const Compiler&) = delete;
@@ -69,10 +67,6 @@ class Compiler {
 
   /// Forgets all compiled statements: after the catalogue has changed.
   void clear();
-
-  /// Figures for benchmarks: texts found in the cache, and texts compiled.
-  std::size_t hits() const;
-  std::size_t misses() const;
 
  private:
   struct Impl;

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "engines/tsql/quoted_names.h"
+
 namespace korvantes::tsql {
 
 namespace {
@@ -75,15 +77,6 @@ bool isColumn(const typed::Expression& expression) {
 
 bool needsCollation(const typed::Expression& expression) {
   return isText(expression.type) && !isColumn(expression);
-}
-
-std::string quotedText(const std::string& text) {
-  std::string quoted = "'";
-  for (const char c : text) {
-    quoted += c;
-    if (c == '\'') quoted += c;
-  }
-  return quoted + "'";
 }
 
 std::string hexOf(const ado::Bytes& bytes) {

@@ -6,7 +6,7 @@ namespace korvantes::tsql {
 namespace {
 
 TEST(Statements, EveryStatementInUseCompilesToItsColumns) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   for (const auto& accepted : casesOf("accepted.sql")) {
     SCOPED_TRACE(accepted.statement);
     ASSERT_EQ(refusalOf(compiler, accepted.statement), "");
@@ -15,7 +15,7 @@ TEST(Statements, EveryStatementInUseCompilesToItsColumns) {
 }
 
 TEST(Statements, WhatIsOutsideTheSubsetIsRefusedWithPlaceAndWord) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   for (const auto& rejected : casesOf("rejected.sql")) {
     SCOPED_TRACE(rejected.statement);
     EXPECT_EQ(refusalOf(compiler, rejected.statement), rejected.expected);
@@ -25,7 +25,7 @@ TEST(Statements, WhatIsOutsideTheSubsetIsRefusedWithPlaceAndWord) {
 }
 
 TEST(Statements, PlacesCountLinesAndCharacters) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   EXPECT_EQ(refusalOf(compiler, "SELECT 'ñandú',\n  'él', Xx\nFROM Cav"),
             "Línea 2, columna 9: no existe la columna «Xx».");
   EXPECT_EQ(refusalOf(compiler, "-- eñe\n/* \n */ SELECT * FROM Nada"),
@@ -35,7 +35,7 @@ TEST(Statements, PlacesCountLinesAndCharacters) {
 }
 
 TEST(Statements, TextsTooDeepOrTooLongAreRefusedAndNotRun) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   const auto repeated = [](std::string_view text, int times) {
     std::string result;
     for (int i = 0; i < times; ++i) result += text;
@@ -63,7 +63,7 @@ TEST(Statements, TextsTooDeepOrTooLongAreRefusedAndNotRun) {
 /// Every prefix of a statement, and the statement with any one character doubled or replaced, ends
 /// in a result or a refusal; nothing else.
 TEST(Statements, DamagedTextsNeverDoWorseThanARefusal) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   const auto cases = casesOf("accepted.sql");
   for (std::size_t c = 0; c < cases.size(); c += 23) {
     const auto& statement = cases[c].statement;
@@ -77,7 +77,7 @@ TEST(Statements, DamagedTextsNeverDoWorseThanARefusal) {
 }
 
 TEST(Statements, DescribeWhatTheEngineHasToKnow) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   const auto one = compiler.compile("select * from AGE where AGE_ID= 7");
   EXPECT_EQ(one.statement->kind, StatementKind::Select);
   EXPECT_EQ(one.statement->table, "Age");

@@ -8,7 +8,7 @@ namespace {
 
 TEST(SubsetPage, ItsExamplesCompile) {
   std::ifstream page(std::string(KORVANTES_SOURCE) + "/docs/sql-subset.md");
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   bool inside = false;
   int statements = 0;
   for (std::string line; std::getline(page, line);) {
