@@ -6,9 +6,9 @@
 #include "host/input_text.h"
 #include "host/orders.h"
 #include "host/screens.h"
-#include "host/temporary_folder.h"
 #include "host/version.h"
 #include "host/windows.h"
+#include "runtime/ado/temporary_folder.h"
 #include "sample/data.h"
 #include "sample/settlement_script.h"
 #include "scripts/failure.h"
@@ -59,8 +59,8 @@ void orderScript(const CommandLine& line, Streams streams) {
 void playSampleSettlement(const CommandLine& line, Streams streams) {
   streams.out << "No hay escritorio gráfico: se reproduce la liquidación de muestra sobre una base "
                  "temporal.\n\n";
-  const TemporaryFolder folder;
-  const Database database = openFile((folder.path() / "muestra.db").string(), OpenMode::Create);
+  const ado::TemporaryFolder folder;
+  const Database database = openFile(folder.file("muestra.db"), OpenMode::Create);
   createTables(database, sample::loadSampleData);
   CommandLine sampleLine = line;
   if (!sampleLine.today) sampleLine.today = kSampleToday;

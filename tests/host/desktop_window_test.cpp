@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 
 #include "desktop/application.h"
-#include "host/temporary_folder.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::host {
 namespace {
@@ -29,7 +29,7 @@ class DesktopWindowTest : public testing::Test {
   }
   ~DesktopWindowTest() override { screen::Desktop::makeCurrent(nullptr); }
 
-  std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  std::string path(const char* name) const { return folder_.file(name); }
   QPushButton& entry() { return *window_.findChild<EntryButton*>(); }
   std::string cardText() const {
     std::string text;
@@ -38,7 +38,7 @@ class DesktopWindowTest : public testing::Test {
     return text;
   }
 
-  TemporaryFolder folder_;
+  ado::TemporaryFolder folder_;
   desktop::QtDesktop desktop_;
   DesktopWindow window_{desktop_};
   std::vector<std::string> messages_, closed_;

@@ -7,8 +7,8 @@
 #include <sstream>
 
 #include "host/database.h"
-#include "host/temporary_folder.h"
 #include "host/windows.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::host {
 namespace {
@@ -37,7 +37,7 @@ class HostTest : public testing::Test {
     return {status, out.str(), err.str()};
   }
 
-  std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  std::string path(const char* name) const { return folder_.file(name); }
   std::string url(const char* name = "base.db") const { return "sqlite:" + path(name); }
   std::string write(const char* name, const std::string& text) const {
     std::ofstream(path(name), std::ios::binary) << text;
@@ -54,7 +54,7 @@ class HostTest : public testing::Test {
     EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << outcome.err;
   }
 
-  TemporaryFolder folder_;
+  ado::TemporaryFolder folder_;
 };
 
 TEST_F(HostTest, RefusesWhatItCannotDoInOneLine) {

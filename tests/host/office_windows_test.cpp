@@ -11,7 +11,7 @@
 #include "desktop/print_preview.h"
 #include "desktop/robot.h"
 #include "host/desktop_base.h"
-#include "host/temporary_folder.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::host {
 namespace {
@@ -68,7 +68,7 @@ class OfficeWindows : public testing::Test {
   }
   std::filesystem::path path(const char* name) const { return folder_.path() / name; }
 
-  TemporaryFolder folder_;
+  ado::TemporaryFolder folder_;
   desktop::QtDesktop desktop_;
   DesktopBase base_;
   std::vector<std::string> messages_;

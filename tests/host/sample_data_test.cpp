@@ -4,8 +4,8 @@
 
 #include "data/commission_rule.h"
 #include "host/database.h"
-#include "host/temporary_folder.h"
 #include "outside/plindor/util_formulario.h"
+#include "runtime/ado/temporary_folder.h"
 #include "sample/data.h"
 
 namespace korvantes::host {
@@ -14,8 +14,8 @@ namespace {
 class SampleData : public testing::Test {
  protected:
   static void SetUpTestSuite() {
-    folder_ = new TemporaryFolder;
-    database_ = new Database(openFile((folder_->path() / "muestra.db").string(), OpenMode::Create));
+    folder_ = new ado::TemporaryFolder;
+    database_ = new Database(openFile(folder_->file("muestra.db"), OpenMode::Create));
     createTables(*database_, sample::loadSampleData);
   }
   static void TearDownTestSuite() {
@@ -30,7 +30,7 @@ class SampleData : public testing::Test {
   }
 
  private:
-  static inline TemporaryFolder* folder_ = nullptr;
+  static inline ado::TemporaryFolder* folder_ = nullptr;
   static inline Database* database_ = nullptr;
 };
 
