@@ -7,8 +7,8 @@
 
 namespace korvantes::host {
 
-/// The component at work on a database. The module keeps its object for good; the database is taken
-/// from it again when this ends, so that the connection can close.
+/// The component with its database. The module keeps its object for good; the destructor takes the
+/// database away from it, so that the connection can close.
 class ComponentSession {
  public:
   explicit ComponentSession(const Database& database) : component_(KORVAN::Create()) {

@@ -2,6 +2,7 @@
 #include <ostream>
 
 #include "host/component_session.h"
+#include "host/create_base.h"
 #include "host/database.h"
 #include "host/input_text.h"
 #include "host/orders.h"
@@ -9,7 +10,6 @@
 #include "host/version.h"
 #include "host/windows.h"
 #include "runtime/ado/temporary_folder.h"
-#include "sample/data.h"
 #include "sample/settlement_script.h"
 #include "scripts/failure.h"
 #include "scripts/headless_stage.h"
@@ -51,7 +51,7 @@ void play(scripts::ScriptStage& stage, std::string_view script, const CommandLin
 void orderScript(const CommandLine& line, Streams streams) {
   if (line.arguments.size() != 1)
     throw Failure("guion: se espera un FICHERO, o - para leerlo de la entrada");
-  const Database database = openDatabase(line.base, OpenMode::Existing);
+  const Database database = openDatabase(line.base);
   const std::string script = readInput(line.arguments.front(), streams.in);
   play(*makeStage(line.desktop), script, line, database, streams.out);
 }
@@ -60,8 +60,9 @@ void playSampleSettlement(const CommandLine& line, Streams streams) {
   streams.out << "No hay escritorio gráfico: se reproduce la liquidación de muestra sobre una base "
                  "temporal.\n\n";
   const ado::TemporaryFolder folder;
-  const Database database = openFile(folder.file("muestra.db"), OpenMode::Create);
-  createTables(database, sample::loadSampleData);
+  const std::string path = folder.file("muestra.db");
+  createBase(path, BaseContents::SampleData);
+  const Database database = openFile(path);
   CommandLine sampleLine = line;
   if (!sampleLine.today) sampleLine.today = kSampleToday;
   play(*makeStage(hasWindows()), sample::kSettlementScript, sampleLine, database, streams.out);

@@ -106,7 +106,7 @@ struct Entry {
     });
   }
 
-  /// The text's literals as parameters; false when one has digits this statement has no room for.
+  /// The text's literals as parameters; false if one has more digits than this statement can take.
   bool fill(const std::vector<Literal>& literals, std::string_view text,
             std::vector<StoredValue>& values) const {
     values.clear();

@@ -110,7 +110,7 @@ class Writer {
       write(select.cores[i], select.cores.size() > 1, alias);
     }
     writeOrder(select);
-    // TOP stands in front, its counterpart at the end.
+    // TOP comes first, its counterpart last.
     if (const auto& top = select.cores.front().top) out_ += " LIMIT " + std::to_string(*top);
   }
 

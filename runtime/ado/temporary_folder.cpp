@@ -16,7 +16,8 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void fail(const std::error_code& error) {
-  throw Error(error.value(), "No se puede crear una carpeta temporal: " + systemWords(error));
+  throw Error(systemErrorKind(error.value()), error.value(),
+              "No se puede crear una carpeta temporal: " + systemWords(error));
 }
 
 fs::path systemFolder() {

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "host/database.h"
 #include "host/windows.h"
 #include "runtime/ado/temporary_folder.h"
 
@@ -137,18 +136,6 @@ TEST_F(HostTest, PrintsTheResultsOfStatementsUntilOneFails) {
   EXPECT_NE(printed.err.find("sentencia 6: "), std::string::npos) << printed.err;
   EXPECT_NE(printed.err.find("NoHay"), std::string::npos) << printed.err;
   EXPECT_EQ(run({"--base", url(), "sql"}, "select count(*) as n from T;").out, "n\n2\n");
-}
-
-TEST_F(HostTest, LeavesNothingOfTablesThatCouldNotBeFilled) {
-  const Database database = openDatabase(url(), OpenMode::Create);
-  const auto failing = [](ado::Connection& connection) {
-    connection.Execute("insert into Age (AGE_ID) values (1)");
-    throw ado::Error(0, "disco lleno");
-  };
-  EXPECT_THROW(createTables(database, failing), ado::Error);
-  EXPECT_FALSE(database.hasTables());
-  EXPECT_TRUE(createTables(database));
-  EXPECT_FALSE(createTables(database));
 }
 
 TEST_F(HostTest, AScriptWithAnErrorEndsWithStatus1) {

@@ -3,10 +3,9 @@
 #include <string>
 
 #include "data/commission_rule.h"
-#include "host/database.h"
+#include "host/create_base.h"
 #include "outside/plindor/util_formulario.h"
 #include "runtime/ado/temporary_folder.h"
-#include "sample/data.h"
 
 namespace korvantes::host {
 namespace {
@@ -15,8 +14,9 @@ class SampleData : public testing::Test {
  protected:
   static void SetUpTestSuite() {
     folder_ = new ado::TemporaryFolder;
-    database_ = new Database(openFile(folder_->file("muestra.db"), OpenMode::Create));
-    createTables(*database_, sample::loadSampleData);
+    const std::string path = folder_->file("muestra.db");
+    createBase(path, BaseContents::SampleData);
+    database_ = new Database(openFile(path));
   }
   static void TearDownTestSuite() {
     delete database_;

@@ -31,9 +31,10 @@ class SqliteFileTest : public testing::Test {
 
 TEST_F(SqliteFileTest, BothFilesAreTheirOwnersAlone) {
   SqliteConnection connection(path_, kCreate);
-  EXPECT_FALSE(connection.hasTables());
+  EXPECT_FALSE(connection.hasTable("", "Lca"));
   makeTables(connection);
-  EXPECT_TRUE(connection.hasTables());
+  EXPECT_TRUE(connection.hasTable("", "Lca"));
+  EXPECT_FALSE(connection.hasTable("", "PAIS"));
   connection.Execute("insert into Vespara.dbo.PAIS values (724, 'España')");
   for (const char* name : {"empresa.db", "empresa.db.vespara", "empresa.db-wal"}) {
     struct stat state {};
@@ -87,12 +88,12 @@ TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
   EXPECT_TRUE(fs::exists(folder_.file("datos/empresa.db")));
 }
 
-TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanishWithSqlitesWords) {
+TEST_F(SqliteFileTest, ALockedFileSaysSoInSpanish) {
   SqliteConnection first(path_, kCreate);
   SqliteConnection second(path_, kCreate);
   first.BeginTrans();
   EXPECT_EQ(support::failureOf([&] { second.BeginTrans(); }),
-            "La base de datos está ocupada por otro usuario (database is locked)");
+            "La base de datos está ocupada por otro usuario");
 }
 
 TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {

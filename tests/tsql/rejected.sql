@@ -129,7 +129,7 @@ SELECT * FROM otro.Cav
 SELECT * FROM Tivas
 => Línea 1, columna 15: no existe la tabla «Tivas».
 SELECT * FROM Vespara.dbo.Cav
-=> Línea 1, columna 27: no existe la tabla «Cav».
+=> La base de datos compartida no tiene la tabla «Cav».
 SELECT Cav_Xx FROM Cav
 => Línea 1, columna 8: no existe la columna «Cav_Xx».
 SELECT x.Cav_Id FROM Cav
