@@ -1,9 +1,5 @@
 #include "bench/bench_database.h"
 
-#include <filesystem>
-#include <stdexcept>
-#include <stdlib.h>
-
 #include "data/schema.h"
 #include "engines/sqlite/sqlite_connection.h"
 #include "engines/tsql/compiler.h"
@@ -11,19 +7,9 @@
 namespace korvantes::bench {
 
 BenchDatabase::BenchDatabase() {
-  std::string pattern = std::filesystem::temp_directory_path() / "korvantes-bench-XXXXXX";
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  folder_ = pattern;
-  path_ = folder_ + "/bench.db";
-  connection_ = std::make_shared<sqlite::SqliteConnection>(path_, sqlite::OpenOptions{true});
+  connection_ = std::make_shared<sqlite::SqliteConnection>(path(), sqlite::OpenOptions{true});
   for (const std::string& statement : tsql::splitStatements(data::kSchema))
     connection_->Execute(statement);
-}
-
-BenchDatabase::~BenchDatabase() {
-  connection_.reset();
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
 }
 
 void InsertedRows::add(const std::string& row) {

@@ -6,22 +6,20 @@
 #include <string>
 
 #include "runtime/ado/connection.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::bench {
 
-/// A database with empty tables in a private temporary folder, removed at the end.
+/// A database with empty tables in a folder of its own, which the destructor deletes.
 class BenchDatabase {
  public:
   BenchDatabase();
-  ~BenchDatabase();
-  BenchDatabase(const BenchDatabase&) = delete;
-  BenchDatabase& operator=(const BenchDatabase&) = delete;
 
-  const std::string& path() const { return path_; }
+  std::string path() const { return folder_.file("bench.db"); }
   const std::shared_ptr<ado::Connection>& connection() const { return connection_; }
 
  private:
-  std::string folder_, path_;
+  ado::TemporaryFolder folder_;
   std::shared_ptr<ado::Connection> connection_;
 };
 

@@ -166,7 +166,7 @@ void CompilerCacheHit(benchmark::State& state) {
   PendingDatabase& database = pendingDatabase(10000);
   static_cast<void>(database);
   const auto catalogue = std::make_shared<tsql::Catalogue>();
-  tsql::Compiler compiler(tsql::Compiler::Engine::SQLite, catalogue);
+  tsql::Compiler compiler(catalogue);
   for (const char* table :
        {"CREATE TABLE Cav (Cav_Id int PRIMARY KEY, Cav_Dto1 decimal(5,2), Cav_DTO2 decimal(5,2))",
         "CREATE TABLE Lav (Lav_Id int PRIMARY KEY, Lav_IdCav int, Lav_Importe money, "

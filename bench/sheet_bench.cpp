@@ -1,5 +1,4 @@
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -7,6 +6,7 @@
 #include <string>
 
 #include "office/sheet/spreadsheet.h"
+#include "runtime/ado/temporary_folder.h"
 #include "runtime/screen/form.h"
 
 namespace korvantes::bench {
@@ -31,20 +31,8 @@ void forgetPeak() {
 /// Writes to one file again and again.
 class Outlet : public office::SheetOutlet {
  public:
-  Outlet() {
-    std::string name = (std::filesystem::temp_directory_path() / "korvantes-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    folder_ = name;
-  }
-  ~Outlet() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  Outlet(const Outlet&) = delete;
-  Outlet& operator=(const Outlet&) = delete;
-
   std::optional<std::filesystem::path> fileFor(const std::string& name) override {
-    return folder_ / name;
+    return folder_.path() / name;
   }
   void written(const std::filesystem::path& file, std::size_t rows) override {
     bytes = static_cast<double>(std::filesystem::file_size(file));
@@ -54,7 +42,7 @@ class Outlet : public office::SheetOutlet {
   double bytes = 0;
 
  private:
-  std::filesystem::path folder_;
+  ado::TemporaryFolder folder_;
   std::size_t rows_ = 0;
 };
 

@@ -35,7 +35,7 @@ std::string sinRuta(std::string texto, const std::string& ruta) {
 /// Hands the path of a file to the step, and removes the file after it.
 template <class Paso>
 auto conFicheroDePaso(Paso paso) {
-  const PrivateFolder carpeta;
+  const ado::TemporaryFolder carpeta = makePrivateFolder();
   const std::string fichero = carpeta.file("temp.bmp");
   try {
     return paso(fichero);

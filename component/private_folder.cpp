@@ -1,14 +1,10 @@
 #include "component/private_folder.h"
 
-#include <cerrno>
 #include <cstdlib>
-#include <filesystem>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 #include "runtime/ado/error.h"
-#include "runtime/ado/system_words.h"
 
 namespace korvantes {
 
@@ -25,30 +21,18 @@ bool isSafe(const char* place) {
   return ours && (closed || (state.st_mode & S_ISVTX) != 0);
 }
 
-/// Path of a new folder there, made exclusively; empty, with errno, when there is none.
-std::string madeIn(const char* place) {
-  std::string path = std::string(place) + "/korvantes-XXXXXX";
-  return ::mkdtemp(path.data()) != nullptr ? path : std::string();
-}
-
 }  // namespace
 
-PrivateFolder::PrivateFolder() {
-  const char* const places[] = {std::getenv("XDG_RUNTIME_DIR"), std::getenv("TMPDIR"), kLastPlace};
-  int reason = EACCES;
-  for (const char* place : places) {
+ado::TemporaryFolder makePrivateFolder() {
+  for (const char* place : {std::getenv("XDG_RUNTIME_DIR"), std::getenv("TMPDIR")}) {
     if (place == nullptr || !isSafe(place)) continue;
-    path_ = madeIn(place);
-    if (!path_.empty()) return;
-    reason = errno;
+    try {
+      return ado::TemporaryFolder(place);
+    } catch (const ado::Error&) {
+      // A full or read-only place; the next one may do.
+    }
   }
-  throw ado::Error(reason, std::string("No se puede crear una carpeta temporal en ") + kLastPlace +
-                               ": " + ado::systemWords(reason));
-}
-
-PrivateFolder::~PrivateFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+  return ado::TemporaryFolder(kLastPlace);
 }
 
 }  // namespace korvantes

@@ -10,14 +10,16 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <langinfo.h>
+#include <optional>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
 #include "desktop/look.h"
+#include "runtime/ado/error.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::desktop {
 
@@ -83,21 +85,17 @@ struct Application::Environment {
     if (runtime == nullptr || !ownFolder(runtime)) makeRuntimeFolder();
     useUtf8();
   }
-  ~Environment() {
-    std::error_code ignored;
-    if (!runtimeFolder.empty()) std::filesystem::remove_all(runtimeFolder, ignored);
-  }
-  Environment(const Environment&) = delete;
-  Environment& operator=(const Environment&) = delete;
 
   void makeRuntimeFolder() {
-    std::string path = "/tmp/korvantes-XXXXXX";
-    if (mkdtemp(path.data()) == nullptr) return;
-    runtimeFolder = path;
-    setenv("XDG_RUNTIME_DIR", path.c_str(), 1);
+    try {
+      runtimeFolder.emplace("/tmp");
+      setenv("XDG_RUNTIME_DIR", runtimeFolder->path().c_str(), 1);
+    } catch (const ado::Error&) {
+      // Qt complains then, and works without one.
+    }
   }
 
-  std::string runtimeFolder;
+  std::optional<ado::TemporaryFolder> runtimeFolder;
 };
 
 struct Application::Toolkit {

@@ -14,7 +14,7 @@ const std::string_view kHelp =
 
 Órdenes:
   (sin orden)               abre el escritorio; sin pantalla, reproduce la liquidación de muestra
-  crear                     crea las tablas vacías; se niega donde ya existen
+  crear                     crea las tablas vacías, o las que falten; se niega donde ya existen todas
   demo                      lo mismo, con datos de muestra
   sql [FICHERO|-]           ejecuta sentencias T-SQL, cada una acabada en ';' a final de línea o
                             separadas por líneas GO; los resultados salen separados por tabuladores

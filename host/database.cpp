@@ -2,13 +2,10 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <utility>
 
-#include "data/schema.h"
 #include "engines/sqlite/sqlite_connection.h"
-#include "engines/tsql/compiler.h"
+#include "host/create_base.h"
 #include "runtime/ado/system_words.h"
-#include "sample/data.h"
 #include "scripts/failure.h"
 
 namespace korvantes::host {
@@ -40,59 +37,35 @@ void makePrivateFolder(const fs::path& folder) {
                   ado::systemWords(error));
 }
 
-/// After a failure that is the one to be told: a failure of the rollback itself is not.
-void rollBack(ado::Connection& connection) {
-  try {
-    if (connection.inTransaction()) connection.RollbackTrans();
-  } catch (const ado::Error&) {
-  }
-}
-
-Database openSample(OpenMode mode) {
-  const fs::path folder = dataFolder();
-  makePrivateFolder(folder);
-  const std::string path = (folder / kSampleFile).string();
-  Database database = openFile(path, OpenMode::Create);
-  if (mode == OpenMode::Create || database.hasTables()) return database;
-  if (createTables(database, sample::loadSampleData)) return database;
-  // Another process made them in the meantime; the connection must learn of them.
-  return openFile(path, OpenMode::Existing);
-}
-
 }  // namespace
 
-Database openFile(const std::string& path, OpenMode mode) {
-  sqlite::OpenOptions options;
-  options.create = mode == OpenMode::Create;
-  auto connection = std::make_shared<sqlite::SqliteConnection>(path, options);
-  return {connection, [connection] { return connection->hasTables(); }, path};
-}
-
-Database openDatabase(const std::optional<std::string>& url, OpenMode mode) {
-  if (!url) return openSample(mode);
-  if (url->starts_with(kSqlite) && url->size() > kSqlite.size())
-    return openFile(url->substr(kSqlite.size()), mode);
+std::string filePathOf(const std::optional<std::string>& url) {
+  if (!url) {
+    const fs::path folder = dataFolder();
+    makePrivateFolder(folder);
+    return (folder / kSampleFile).string();
+  }
+  if (url->starts_with(kSqlite) && url->size() > kSqlite.size()) return url->substr(kSqlite.size());
   if (url->starts_with(kOdbc))
     throw Failure("--base: las bases odbc: no están disponibles en esta versión del programa");
   throw Failure("--base: se espera sqlite:RUTA u odbc:CADENA DE CONEXIÓN");
 }
 
-bool createTables(const Database& database, const std::function<void(ado::Connection&)>& fill) {
-  ado::Connection& connection = *database.connection;
-  connection.BeginTrans();
-  try {
-    const bool fresh = !database.hasTables();
-    if (fresh) {
-      for (const std::string& statement : tsql::splitStatements(data::kSchema))
-        connection.Execute(statement);
-      if (fill) fill(connection);
-    }
-    connection.CommitTrans();
-    return fresh;
-  } catch (...) {
-    rollBack(connection);
-    throw;
-  }
+Database openFile(const std::string& path, OpenMode mode) {
+  sqlite::OpenOptions options;
+  options.create = mode == OpenMode::Create;
+  auto connection = std::make_shared<sqlite::SqliteConnection>(path, options);
+  return {connection,
+          [connection](std::string_view database, std::string_view table) {
+            return connection->hasTable(database, table);
+          },
+          path};
+}
+
+Database openDatabase(const std::optional<std::string>& url) {
+  const std::string path = filePathOf(url);
+  if (!url) completeSample(path);
+  return openFile(path);
 }
 
 }  // namespace korvantes::host

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "runtime/ado/connection.h"
 
@@ -12,27 +13,28 @@ namespace korvantes::host {
 /// An open database.
 struct Database {
   std::shared_ptr<ado::Connection> connection;
-  std::function<bool()> hasTables;
+  /// Whether a table is declared; the database is empty for the company's own, else "Vespara".
+  std::function<bool(std::string_view database, std::string_view table)> hasTable;
   std::string name;  ///< for the user: the file
 };
 
 enum class OpenMode {
-  Existing,  ///< a missing file is a failure
-  Create     ///< a missing file, and the folder of the sample database, are made
+  Existing,  ///< a file that is missing or without tables is a failure
+  Create     ///< such a file is accepted, and created if it is missing
 };
 
-/// Opens the database that a URL names: "sqlite:PATH" (what is shared lies in PATH.vespara) or
-/// "odbc:CONNECTION STRING". Without a URL it is the sample database under the user's data folder,
-/// which is made, with its data, on first use; in mode Create it is merely opened.
-/// Throws Failure or ado::Error. No message holds a connection string, as it may hold a password.
-Database openDatabase(const std::optional<std::string>& url, OpenMode mode);
+/// Opens the database that a URL names: "sqlite:PATH" (with the shared one in PATH.vespara) or
+/// "odbc:CONNECTION STRING". Without a URL it is the sample database in the user's data folder; it
+/// is created on first use, and completed if it was only half created.
+/// Throws Failure or ado::Error. No message contains a connection string, as it may hold a
+/// password.
+Database openDatabase(const std::optional<std::string>& url);
 
-/// Opens a database file, with the failures told as above.
-Database openFile(const std::string& path, OpenMode mode);
+/// Opens a database file. Throws as above.
+Database openFile(const std::string& path, OpenMode mode = OpenMode::Existing);
 
-/// Makes the tables, and then calls `fill`, in one transaction: both stay or nothing does. False,
-/// with nothing changed, where there are tables already. Throws what the statements throw.
-bool createTables(const Database& database,
-                  const std::function<void(ado::Connection&)>& fill = nullptr);
+/// The path of the file that a URL names, or of the sample database, whose folder is created.
+/// Throws as above.
+std::string filePathOf(const std::optional<std::string>& url);
 
 }  // namespace korvantes::host

@@ -1,27 +1,29 @@
 #include "host/desktop_base.h"
 
-#include <filesystem>
 #include <utility>
+#include <vector>
 
-#include "sample/data.h"
+#include "host/create_base.h"
 #include "scripts/failure.h"
 
 namespace korvantes::host {
 
 void DesktopBase::open(const std::optional<std::string>& url) {
-  Database database = openDatabase(url, OpenMode::Existing);
-  if (!database.hasTables())
-    throw Failure("la base " + inQuotes(database.name) + " no tiene las tablas del programa");
+  Database database = openDatabase(url);
+  const std::vector<std::string> missing = missingTables(database);
+  if (!missing.empty()) {
+    std::string names;
+    for (const std::string& name : missing) names += (names.empty() ? "" : ", ") + name;
+    throw Failure("a la base " + inQuotes(database.name) +
+                  " le faltan tablas del programa: " + names);
+  }
   use(std::move(database));
 }
 
 void DesktopBase::makeSample(const std::string& path) {
-  std::error_code unknown;
-  if (std::filesystem::exists(path, unknown))
-    throw Failure("ya existe el fichero " + inQuotes(path) + "; elija otro nombre");
-  Database database = openFile(path, OpenMode::Create);
-  createTables(database, sample::loadSampleData);
-  use(std::move(database));
+  if (!createBase(path, BaseContents::SampleData))
+    throw Failure("ya existe la base " + inQuotes(path) + "; elija otro nombre");
+  use(openFile(path));
 }
 
 void DesktopBase::use(Database database) {

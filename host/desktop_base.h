@@ -9,19 +9,19 @@
 
 namespace korvantes::host {
 
-/// The database on which the desktop works, with the component at work on it; or the reason why
-/// there is none.
+/// The database that the desktop works on, if any, and the component that uses it.
 class DesktopBase {
  public:
   /// Opens the database of a URL, or the user's sample database, in place of the one in use. Throws
-  /// Failure or ado::Error, also for a file without our tables; the one in use stays then.
+  /// Failure or ado::Error, also if one of the company's tables is missing; the one in use then
+  /// stays.
   void open(const std::optional<std::string>& url);
-  /// Makes a sample database in a new file and opens it. Throws as above, also where there is such
-  /// a file.
+  /// Creates a sample database and opens it, in a new file or in one that was only half created.
+  /// Throws as above, also if there is a complete database of that name.
   void makeSample(const std::string& path);
 
   bool isOpen() const { return session_.has_value(); }
-  /// For the user; only while one is open.
+  /// The file, for the user. Only while one is open.
   const std::string& name() const { return database_.name; }
   scripts::Screens screens() const { return screensOf(session_->component()); }
 

@@ -29,7 +29,7 @@ void orderCommission(const CommandLine& line, Streams streams) {
   if (origin != data::kPedido && origin != data::kAlbaran)
     throw Failure("ORIGEN: " + inQuotes(line.arguments[0]) + " no es 2 (pedido) ni 3 (albarán)");
 
-  const Database database = openDatabase(line.base, OpenMode::Existing);
+  const Database database = openDatabase(line.base);
   const ComponentSession session(database);
   const double commission = session.component().msComisionAgente(origin, header, documentLine);
   const screen::Regional regional = line.regional.value_or(screen::Regional::ofMachine());

@@ -2,13 +2,13 @@
 #include <ostream>
 
 #include "host/component_session.h"
+#include "host/create_base.h"
 #include "host/database.h"
 #include "host/input_text.h"
 #include "host/orders.h"
 #include "host/screens.h"
-#include "host/temporary_folder.h"
 #include "host/windows.h"
-#include "sample/data.h"
+#include "runtime/ado/temporary_folder.h"
 #include "sample/settlement_script.h"
 #include "scripts/failure.h"
 #include "scripts/headless_desktop.h"
@@ -49,7 +49,7 @@ void play(scripts::Stage& stage, std::string_view script, const CommandLine& lin
 void orderScript(const CommandLine& line, Streams streams) {
   if (line.arguments.size() != 1)
     throw Failure("guion: se espera un FICHERO, o - para leerlo de la entrada");
-  const Database database = openDatabase(line.base, OpenMode::Existing);
+  const Database database = openDatabase(line.base);
   const std::string script = readInput(line.arguments.front(), streams.in);
   play(*makeStage(line.desktop), script, line, database, streams.out);
 }
@@ -57,9 +57,10 @@ void orderScript(const CommandLine& line, Streams streams) {
 void playSampleSettlement(const CommandLine& line, Streams streams) {
   streams.out << "No hay escritorio gráfico: se reproduce la liquidación de muestra sobre una base "
                  "temporal.\n\n";
-  const TemporaryFolder folder;
-  const Database database = openFile((folder.path() / "muestra.db").string(), OpenMode::Create);
-  createTables(database, sample::loadSampleData);
+  const ado::TemporaryFolder folder;
+  const std::string path = folder.file("muestra.db");
+  createBase(path, BaseContents::SampleData);
+  const Database database = openFile(path);
   CommandLine sampleLine = line;
   if (!sampleLine.today) sampleLine.today = kSampleToday;
   play(*makeStage(hasWindows()), sample::kSettlementScript, sampleLine, database, streams.out);

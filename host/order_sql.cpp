@@ -10,7 +10,7 @@ namespace korvantes::host {
 void orderSql(const CommandLine& line, Streams streams) {
   if (line.arguments.size() > 1) throw Failure("sql: sobra " + inQuotes(line.arguments[1]));
   const std::string source = line.arguments.empty() ? "-" : line.arguments.front();
-  const Database database = openDatabase(line.base, OpenMode::Existing);
+  const Database database = openDatabase(line.base);
   const std::string text = readInput(source, streams.in);
   int place = 0;
   for (const std::string& statement : tsql::splitStatements(text)) {

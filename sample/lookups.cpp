@@ -11,6 +11,11 @@ namespace {
 
 using Entry = std::pair<int, const char*>;
 
+constexpr const char* kProvinceTable = "Vespara.dbo.PROV";
+constexpr const char* kCountryTable = "Vespara.dbo.PAIS";
+constexpr const char* kSituationTable = "Vespara.dbo.situaciones";
+constexpr const char* kRateTable = "Vespara.dbo.Tivas";
+
 constexpr Entry kProvinces[] = {
     {1, "Araba/Álava"},
     {2, "Albacete"},
@@ -123,6 +128,13 @@ std::vector<Row> entries(std::span<const Entry> list) {
   return rows;
 }
 
+bool isEmpty(ado::Connection& connection, const char* table) {
+  return connection.Execute(std::string("Select count(*) from ") + table)
+             .Fields(0)
+             .Value()
+             .asLong() == 0;
+}
+
 }  // namespace
 
 const std::vector<Rate>& sampleRates() {
@@ -151,22 +163,33 @@ std::optional<Rate> rateInForce(int regime, const std::optional<ado::Date>& day)
   return best;
 }
 
-void loadLookups(ado::Connection& connection) {
-  insertRows(connection, "Vespara.dbo.PROV", "PROV_COD, PROV_NOM", entries(kProvinces));
-  insertRows(connection, "Vespara.dbo.PAIS", "PAIS_COD, PAIS_NOM", entries(kCountries));
+bool loadLookups(ado::Connection& connection) {
+  bool written = false;
+  const auto fill = [&](const char* table, const char* columns, const std::vector<Row>& rows) {
+    if (!isEmpty(connection, table)) return;
+    insertRows(connection, table, columns, rows);
+    written = true;
+  };
+  fill(kProvinceTable, "PROV_COD, PROV_NOM", entries(kProvinces));
+  fill(kCountryTable, "PAIS_COD, PAIS_NOM", entries(kCountries));
 
   std::vector<Row> situations;
   for (const Situation& it : kSituations)
     situations.push_back({it.process, it.language, it.code, it.text});
-  insertRows(connection, "Vespara.dbo.situaciones", "Sit_Proceso, Sit_Idioma, Sit_Cod, Sit_Des",
-             situations);
+  fill(kSituationTable, "Sit_Proceso, Sit_Idioma, Sit_Cod, Sit_Des", situations);
 
   std::vector<Row> rates;
   for (const Rate& it : sampleRates())
     rates.push_back({it.id, it.regime, it.article, it.from, ado::Decimal(it.vat, 2),
                      ado::Decimal(it.withholding, 2)});
-  insertRows(connection, "Vespara.dbo.Tivas",
-             "Tiva_Id, Tiva_reg, Tiva_Art, Tiva_Fecha, Tiva_Iva, Tiva_Ret", rates);
+  fill(kRateTable, "Tiva_Id, Tiva_reg, Tiva_Art, Tiva_Fecha, Tiva_Iva, Tiva_Ret", rates);
+  return written;
+}
+
+bool lacksLookups(ado::Connection& connection) {
+  for (const char* table : {kProvinceTable, kCountryTable, kSituationTable, kRateTable})
+    if (isEmpty(connection, table)) return true;
+  return false;
 }
 
 }  // namespace korvantes::sample

@@ -24,7 +24,11 @@ const std::vector<Rate>& sampleRates();
 /// has none by then.
 std::optional<Rate> rateInForce(int regime, const std::optional<ado::Date>& day);
 
-/// Writes provinces, countries, coded lists and rates.
-void loadLookups(ado::Connection& connection);
+/// Writes provinces, countries, coded lists and rates, each into its table unless that has rows.
+/// True if anything was written.
+bool loadLookups(ado::Connection& connection);
+
+/// Whether one of those tables has no row.
+bool lacksLookups(ado::Connection& connection);
 
 }  // namespace korvantes::sample

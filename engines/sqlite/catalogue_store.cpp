@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "engines/tsql/compiler.h"
+#include "engines/tsql/quoted_names.h"
 
 namespace korvantes::sqlite {
 
@@ -14,7 +15,7 @@ std::string schemaOf(const std::string& database) {
 }
 
 std::string storeIn(const std::string& database) {
-  return quoted(schemaOf(database)) + ".korvantes_schema";
+  return tsql::qualifiedName(schemaOf(database), kCatalogueTable);
 }
 
 std::string textAt(const Statement& statement) {
@@ -24,21 +25,13 @@ std::string textAt(const Statement& statement) {
 
 }  // namespace
 
-std::int64_t CatalogueStore::number(const std::string& text) {
-  Statement statement(*database_, text, {});
-  return statement.step({}) ? sqlite3_column_int64(statement.raw(), 0) : 0;
-}
-
 tsql::Catalogue CatalogueStore::load() {
   const auto catalogue = std::make_shared<tsql::Catalogue>();
-  tsql::Compiler compiler(tsql::Compiler::Engine::SQLite, catalogue);
+  tsql::Compiler compiler(catalogue);
   std::vector<std::string> databases{"main"};
   if (database_->hasPartner()) databases.emplace_back("Vespara");
   for (const std::string& database : databases) {
-    if (number("SELECT count(*) FROM " + quoted(database) +
-               ".sqlite_master WHERE type = 'table' AND name = 'korvantes_schema'") == 0) {
-      continue;
-    }
+    if (database_->content(database) != Content::Ours) continue;
     Statement texts(*database_, "SELECT text FROM " + storeIn(database) + " ORDER BY position", {});
     while (texts.step({})) {
       const auto bound = compiler.compile(textAt(texts));
@@ -69,16 +62,8 @@ void CatalogueStore::remove(const std::string& database, const std::string& tabl
 }
 
 std::pair<std::int64_t, std::int64_t> CatalogueStore::version() {
-  return {number("PRAGMA main.schema_version"),
-          database_->hasPartner() ? number("PRAGMA Vespara.schema_version") : 0};
-}
-
-bool CatalogueStore::anyTable() {
-  const std::string condition =
-      ".sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
-      "AND name <> 'korvantes_schema'";
-  return number("SELECT count(*) FROM main" + condition) > 0 ||
-         (database_->hasPartner() && number("SELECT count(*) FROM Vespara" + condition) > 0);
+  return {database_->number("PRAGMA main.schema_version"),
+          database_->hasPartner() ? database_->number("PRAGMA Vespara.schema_version") : 0};
 }
 
 Savepoint::Savepoint(Database& database)

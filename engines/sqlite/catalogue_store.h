@@ -10,31 +10,26 @@
 
 namespace korvantes::sqlite {
 
-/// The declarations of the tables, kept in the table korvantes_schema of the file that holds the
-/// tables: SQLite itself remembers no money and no varchar(5).
+/// The declarations of the tables, kept in a table (kCatalogueTable) of the file that holds the
+/// tables: SQLite itself has no types money and varchar(5).
 class CatalogueStore {
  public:
   explicit CatalogueStore(Database& database) : database_(&database) {}
 
-  /// The tables of both files. Throws Error when a kept declaration cannot be read.
+  /// The tables of both files. Throws Error if a stored declaration cannot be read.
   tsql::Catalogue load();
-  /// Keeps the CREATE TABLE text of a table.
+  /// Stores the CREATE TABLE text of a table.
   void keep(const tsql::TableDefinition& table, std::string_view text);
   void remove(const std::string& database, const std::string& table);
 
-  /// Changes with every declaration that any connection makes, in either file.
+  /// A value that changes with every declaration that any connection makes in either file.
   std::pair<std::int64_t, std::int64_t> version();
 
-  /// True when either file holds a table, of ours or of somebody else's.
-  bool anyTable();
-
  private:
-  std::int64_t number(const std::string& text);
-
   Database* database_;
 };
 
-/// Makes several statements one: undone together unless release() was reached.
+/// Makes several statements one: the destructor undoes them together unless release() was called.
 class Savepoint {
  public:
   explicit Savepoint(Database& database);

@@ -1,8 +1,8 @@
 #include "engines/sqlite/database.h"
 
-#include <array>
 #include <utility>
 
+#include "engines/sqlite/failure_words.h"
 #include "engines/sqlite/functions.h"
 #include "engines/tsql/problem.h"
 
@@ -10,62 +10,80 @@ namespace korvantes::sqlite {
 
 namespace {
 
-struct Sentence {
-  int code;
-  const char* words;
-};
-
-/// What the user reads before SQLite's own words, by primary code.
-constexpr std::array<Sentence, 10> kSentences{{
-    {SQLITE_BUSY, "La base de datos está ocupada por otro usuario"},
-    {SQLITE_LOCKED, "La base de datos está ocupada por otro usuario"},
-    {SQLITE_FULL, "El disco está lleno"},
-    {SQLITE_IOERR, "Error de lectura o escritura en el disco"},
-    {SQLITE_READONLY, "La base de datos es de solo lectura"},
-    {SQLITE_CANTOPEN, "No se puede abrir la base de datos"},
-    {SQLITE_NOTADB, "El fichero no es una base de datos"},
-    {SQLITE_CORRUPT, "La base de datos está dañada"},
-    {SQLITE_CONSTRAINT, "Los datos no cumplen una restricción de la tabla"},
-    {SQLITE_NOMEM, "No hay memoria suficiente"},
-}};
-
-std::string wordsFor(int code, const std::string& engineWords) {
-  for (const Sentence& sentence : kSentences) {
-    if (sentence.code == (code & 0xFF)) return sentence.words + (" (" + engineWords + ")");
-  }
-  return engineWords;
-}
-
 constexpr long kNoTransaction = 3903;  // the server's number for a ROLLBACK without a BEGIN
 constexpr long kTransactionOpen = 3988;
 constexpr long kTransactionLost = 3998;
 
 }  // namespace
 
-Database::Database(const std::string& file, const std::string& partner, int busyMilliseconds) {
-  constexpr int kFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW;
+void Database::open(const std::string& name, int flags, int busyMilliseconds) {
   sqlite3* connection = nullptr;
-  const int code = sqlite3_open_v2(file.c_str(), &connection, kFlags, nullptr);
+  const int code = sqlite3_open_v2(name.c_str(), &connection,
+                                   flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr);
   connection_.reset(connection);
   if (code != SQLITE_OK) throw failure(code, {});
   sqlite3_extended_result_codes(raw(), 1);
   sqlite3_busy_timeout(raw(), busyMilliseconds);
-  registerFunctions(*this);
-  configure("main");
-  if (partner.empty()) return;
-  Statement attach(*this, "ATTACH ?1 AS Vespara", {});
-  const tsql::StoredValue path = partner;
-  attach.bind(1, path);
-  attach.step({});
-  hasPartner_ = true;
-  configure("Vespara");
 }
 
-void Database::configure(const std::string& schema) {
+Database::Database(const std::string& file, int busyMilliseconds) {
+  open(file, SQLITE_OPEN_READWRITE, busyMilliseconds);
+  registerFunctions(*this);
+  configure("main", file);
+}
+
+Database::Database(const std::string& uri, ReadOnly) {
+  constexpr int kBusyMilliseconds = 2000;
+  open(uri, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, kBusyMilliseconds);
+  sqlite3_db_config(raw(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+}
+
+void Database::attach(const std::string& partner) {
+  {
+    Statement attach(*this, "ATTACH ?1 AS Vespara", {});
+    const tsql::StoredValue path = partner;
+    attach.bind(1, path);
+    attach.step({});
+  }
+  try {
+    configure("Vespara", partner);
+  } catch (...) {
+    sqlite3_exec(raw(), "DETACH Vespara", nullptr, nullptr, nullptr);
+    throw;
+  }
+  hasPartner_ = true;
+}
+
+Content Database::content(const std::string& schema) {
+  const std::string declared = "SELECT count(*) FROM " + schema + ".sqlite_master";
+  if (number(declared) == 0) return Content::Blank;
+  const std::string ours =
+      std::string(" WHERE type = 'table' AND name = '") + kCatalogueTable + "'";
+  return number(declared + ours) > 0 ? Content::Ours : Content::Foreign;
+}
+
+void Database::configure(const std::string& schema, const std::string& path) {
+  // Once more, now that it is open for writing: before WAL mode changes the file.
+  requireNotForeign(path, content(schema));
   constexpr const char* kCacheKibibytes = "-16384";
   run("PRAGMA " + schema + ".journal_mode=WAL");
   run("PRAGMA " + schema + ".synchronous=FULL");
   run("PRAGMA " + schema + ".cache_size=" + kCacheKibibytes);
+
+  number("PRAGMA " + schema + ".schema_version");  // a first read opens the log
+  const FilePlace file(path);
+  int moved = 0;
+  sqlite3_file_control(raw(), schema.c_str(), SQLITE_FCNTL_HAS_MOVED, &moved);
+  if (moved != 0 || !file.isKnown()) throw fileReplaced(path, {});
+  places_.push_back(file);
+  // The log stays the same file while any connection is open.
+  if (const FilePlace log(path + "-wal"); log.isKnown()) places_.push_back(log);
+}
+
+void Database::requireInPlace(std::string_view subject) const {
+  for (const FilePlace& place : places_) {
+    if (!place.holds()) throw fileReplaced(place.path(), subject);
+  }
 }
 
 void Database::run(const std::string& text, std::string_view subject) {
@@ -74,18 +92,25 @@ void Database::run(const std::string& text, std::string_view subject) {
   }
 }
 
+std::int64_t Database::number(const std::string& text) {
+  Statement statement(*this, text, {});
+  return statement.step({}) ? sqlite3_column_int64(statement.raw(), 0) : 0;
+}
+
 ado::Error Database::failure(int code, std::string_view subject) {
   if (const auto met = std::exchange(functionFailure_, std::nullopt)) {
-    return {met->number(), met->what(), subject};
+    return {met->kind(), met->number(), met->what(), subject};
   }
-  if (!raw()) return {code, wordsFor(code, sqlite3_errstr(code)), subject};
+  if (!raw()) return describe(code, sqlite3_errstr(code), 0, subject);
   const int extended = sqlite3_extended_errcode(raw());
   const std::string words = sqlite3_errmsg(raw());
   if (words == "integer overflow") {  // of SUM, the one arithmetic that is SQLite's own
     const auto overflow = tsql::failure(tsql::Problem::Overflow);
-    return {overflow.number(), overflow.what(), subject};
+    return {overflow.kind(), overflow.number(), overflow.what(), subject};
   }
-  return {extended, wordsFor(extended, words), subject};
+  if (extended == SQLITE_READONLY_DBMOVED)
+    return fileReplaced(sqlite3_db_filename(raw(), "main"), subject);
+  return describe(extended, words, sqlite3_system_errno(raw()), subject);
 }
 
 Statement::Statement(Database& database, const std::string& text, std::string_view subject)
@@ -137,6 +162,7 @@ void Transaction::begin() {
   if (database_->inTransaction()) {
     throw ado::Error(kTransactionOpen, "Ya hay una transacción abierta");
   }
+  database_->requireInPlace("BEGIN");
   // Immediate: a second user waits here, not in the middle of a save.
   database_->run("BEGIN IMMEDIATE");
   begun_ = true;
@@ -147,6 +173,7 @@ void Transaction::commit() {
   if (!database_->inTransaction()) {
     throw ado::Error(kNoTransaction, "No hay ninguna transacción abierta");
   }
+  database_->requireInPlace("COMMIT");
   database_->run("COMMIT");
   begun_ = false;
 }
@@ -175,18 +202,9 @@ bool Transaction::isOpen() const {
 
 void Transaction::requireNotLost(std::string_view subject) const {
   if (!isLost()) return;
-  throw ado::Error(kTransactionLost,
+  throw ado::Error(ado::ErrorKind::TransactionLost, kTransactionLost,
                    "La transacción ha sido anulada por un error anterior; no se ha guardado nada",
                    subject);
-}
-
-std::string quoted(std::string_view name) {
-  std::string text = "\"";
-  for (const char c : name) {
-    if (c == '"') text += '"';
-    text += c;
-  }
-  return text + '"';
 }
 
 }  // namespace korvantes::sqlite

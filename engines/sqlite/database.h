@@ -5,7 +5,10 @@
 #include <sqlite3.h>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "engines/sqlite/database_file.h"
+#include "engines/sqlite/file_place.h"
 #include "engines/tsql/value.h"
 #include "runtime/ado/error.h"
 
@@ -22,9 +25,9 @@ class Statement {
 
   /// Binds parameter `index`, from 1. The value must stay where it is until the reset.
   void bind(int index, const tsql::StoredValue& value);
-  /// Goes to the next row; false at the end. Throws Error, and is reset then.
+  /// Goes to the next row; false at the end. Throws Error and resets the statement if it fails.
   bool step(std::string_view subject);
-  /// Lets go of rows and values, so that it holds nothing up and can run again.
+  /// Releases rows and values, so that the statement blocks nothing and can run again.
   void reset();
 
   sqlite3_stmt* raw() const { return statement_.get(); }
@@ -37,22 +40,40 @@ class Statement {
   std::unique_ptr<sqlite3_stmt, Finalize> statement_;
 };
 
-/// An open database file and, where it is there, its partner attached as Vespara.
+/// An open database file, with its partner, if any, attached as Vespara.
 class Database {
  public:
-  /// Both are absolute paths of existing files; no partner when it is empty.
-  Database(const std::string& file, const std::string& partner, int busyMilliseconds);
+  struct ReadOnly {};
+
+  /// Opens an existing file, given by its absolute path. Throws Error; a database of another
+  /// program is refused before a byte of it changes.
+  Database(const std::string& file, int busyMilliseconds);
+  /// Opens a file by an SQLite URI, merely to look at it.
+  Database(const std::string& uri, ReadOnly mode);
 
   // The functions registered with it hold its address.
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
 
+  /// Attaches the shared file, given by its absolute path. Throws Error, as the constructor does;
+  /// no transaction may be open.
+  void attach(const std::string& partner);
   bool hasPartner() const { return hasPartner_; }
+
+  /// What the file of a schema ("main", "Vespara") holds: Blank, Ours or Foreign.
+  Content content(const std::string& schema);
+
+  /// Throws Error of kind FileReplaced if an open file, or its log, is no longer the one that its
+  /// path leads to: what is written then would be lost. To be called before every write.
+  void requireInPlace(std::string_view subject) const;
+
   /// True while a transaction is open.
   bool inTransaction() const { return sqlite3_get_autocommit(connection_.get()) == 0; }
 
-  /// Runs a text without rows.
+  /// Runs a text that returns no rows.
   void run(const std::string& text, std::string_view subject = {});
+  /// Runs a text that returns one whole number; 0 if it returns no row.
+  std::int64_t number(const std::string& text);
 
   /// The failure that SQLite reports now, or the one that a function of ours met before.
   ado::Error failure(int code, std::string_view subject);
@@ -65,16 +86,17 @@ class Database {
   struct Close {
     void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
   };
-  void configure(const std::string& schema);
+  void open(const std::string& name, int flags, int busyMilliseconds);
+  void configure(const std::string& schema, const std::string& path);
 
   std::unique_ptr<sqlite3, Close> connection_;
   std::optional<ado::Error> functionFailure_;
+  std::vector<FilePlace> places_;
   bool hasPartner_ = false;
 };
 
-/// What a statement may do with the transaction that its caller believes to be in: SQLite gives a
-/// transaction up by itself after some failures (a full disk), and whatever comes next must not be
-/// stored on its own.
+/// The transaction as its caller believes it to be. SQLite gives up a transaction by itself after
+/// some failures (a full disk); what comes next must not be stored on its own.
 class Transaction {
  public:
   explicit Transaction(Database& database) : database_(&database) {}
@@ -82,9 +104,9 @@ class Transaction {
   void begin();
   void commit();
   void rollback();
-  /// The truth. Whoever has read "no" here knows that the transaction is gone.
+  /// Whether one is really open. A caller that has read "no" here knows that it is gone.
   bool isOpen() const;
-  /// Throws Error when the transaction has been given up and nobody has been told yet.
+  /// Throws Error if the transaction was given up and the caller does not know yet.
   void requireNotLost(std::string_view subject) const;
 
  private:
@@ -93,8 +115,5 @@ class Transaction {
   Database* database_;
   mutable bool begun_ = false;
 };
-
-/// A name as SQLite reads it whatever it is made of.
-std::string quoted(std::string_view name);
 
 }  // namespace korvantes::sqlite

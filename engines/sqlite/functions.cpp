@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kMostArguments = 16;
 
-/// What SQLite hands back to a call: the function and where its failures go.
+/// What SQLite passes to a call: the function, and where to report its failures.
 template <typename Function>
 struct Registration {
   const Function* function;
@@ -88,7 +88,7 @@ void giveBack(sqlite3_context* context, std::int64_t number) {
   sqlite3_result_int64(context, number);
 }
 
-/// No exception may leave: the caller is C.
+/// Must not throw: the caller is C.
 template <typename Function>
 void call(sqlite3_context* context, int, sqlite3_value** arguments) {
   const auto* registration = static_cast<const Registration<Function>*>(sqlite3_user_data(context));
@@ -107,7 +107,7 @@ void call(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 template <typename Function>
 void registerOne(Database& database, const Function& function) {
-  // SQLite deletes the registration with the function, also when it could not be made.
+  // SQLite deletes the registration with the function, even if that could not be registered.
   auto registration = std::make_unique<Registration<Function>>(&function, &database);
   const int code = sqlite3_create_function_v2(
       database.raw(), function.name, argumentsOf(function), SQLITE_UTF8 | SQLITE_DETERMINISTIC,

@@ -38,7 +38,9 @@ ado::Variant valueAt(sqlite3_stmt* row, int column, const tsql::Type& type,
       return ado::Decimal(sqlite3_column_int64(row, column), type.scale);
     case tsql::TypeKind::Date: {
       const auto date = ado::Date::parseIso(textAt(row, column));
-      if (!date) throw ado::Error(SQLITE_MISMATCH, "La base de datos contiene una fecha no válida");
+      if (!date)
+        throw ado::Error(ado::ErrorKind::Damaged, SQLITE_MISMATCH,
+                         "La base de datos contiene una fecha no válida");
       return *date;
     }
     case tsql::TypeKind::VarChar:

@@ -10,7 +10,7 @@
 namespace korvantes::sqlite {
 
 /// Runs a bound SELECT to its end and gives its rows with the types it declares, so that no
-/// statement stays active behind a recordset.
+/// statement stays active after a recordset was built.
 ado::Recordset readRows(Statement& statement, const tsql::CompiledStatement& compiled,
                         std::string_view subject, std::shared_ptr<ado::RowWriter> writer = nullptr);
 

@@ -1,7 +1,6 @@
 #include "engines/sqlite/row_update.h"
 
-#include <limits>
-
+#include "engines/tsql/quoted_names.h"
 #include "runtime/ado/text_order.h"
 #include "runtime/ado/utf8.h"
 
@@ -13,8 +12,9 @@ constexpr long kRowGone = -2147217864;  // adErrRowNotFound as ADO reports it
 constexpr long kCannotUpdate = 3251;
 
 [[noreturn]] void doesNotFit(const tsql::ColumnDefinition& column) {
-  throw ado::Error(kCannotUpdate, "El valor no cabe en la columna " + column.name + " (" +
-                                      nameOf(column.type) + ")");
+  throw ado::Error(
+      ado::ErrorKind::Overflow, kCannotUpdate,
+      "El valor no cabe en la columna " + column.name + " (" + nameOf(column.type) + ")");
 }
 
 std::int64_t unitsFor(const tsql::ColumnDefinition& column, const ado::Variant& value) {
@@ -71,7 +71,8 @@ const tsql::ColumnDefinition& columnNamed(const tsql::TableDefinition& table,
                                           const std::string& name) {
   const auto position = table.find(name);
   if (!position) {
-    throw ado::Error(kCannotUpdate, "El campo " + name + " no es una columna de " + table.name);
+    throw ado::Error(ado::ErrorKind::Syntax, kCannotUpdate,
+                     "El campo " + name + " no es una columna de " + table.name);
   }
   return table.columns[*position];
 }
@@ -92,38 +93,44 @@ void RowUpdate::rememberKey(const ado::Recordset& rows) {
 void RowUpdate::write(const std::vector<std::pair<std::string, ado::Variant>>& changes) {
   if (changes.empty()) return;
   const auto session = session_.lock();
-  if (!session) throw ado::Error(kCannotUpdate, "La conexión con la base de datos está cerrada");
+  if (!session)
+    throw ado::Error(ado::ErrorKind::ConnectionLost, kCannotUpdate,
+                     "La conexión con la base de datos está cerrada");
   const std::string subject = "UPDATE " + table_.name;
   session->transaction.requireNotLost(subject);
+  session->database.requireInPlace(subject);
 
   std::vector<tsql::StoredValue> values;
   std::string assignments;
   for (const auto& [name, value] : changes) {
     const auto& column = columnNamed(table_, name);
     if (column.identity) {
-      throw ado::Error(kCannotUpdate, "La columna " + column.name + " la numera la base de datos");
+      throw ado::Error(ado::ErrorKind::Constraint, kCannotUpdate,
+                       "La columna " + column.name + " la numera la base de datos");
     }
     values.push_back(storedValue(column, value));
-    assignments += (assignments.empty() ? "" : ", ") + quoted(column.name) + " = ?" +
+    assignments += (assignments.empty() ? "" : ", ") + tsql::quotedName(column.name) + " = ?" +
                    std::to_string(values.size());
   }
   std::string condition;
   for (std::size_t i = 0; i < key_.size(); ++i) {
     values.push_back(key_[i]);
-    condition += (i == 0 ? "" : " AND ") + quoted(columnNamed(table_, table_.primaryKey[i]).name) +
-                 " = ?" + std::to_string(values.size());
+    condition += (i == 0 ? "" : " AND ") +
+                 tsql::quotedName(columnNamed(table_, table_.primaryKey[i]).name) + " = ?" +
+                 std::to_string(values.size());
   }
   const std::string schema = table_.database.empty() ? "main" : table_.database;
   Statement update(session->database,
-                   "UPDATE " + quoted(schema) + '.' + quoted(table_.name) + " SET " + assignments +
+                   "UPDATE " + tsql::qualifiedName(schema, table_.name) + " SET " + assignments +
                        " WHERE " + condition,
                    subject);
   for (std::size_t i = 0; i < values.size(); ++i) update.bind(static_cast<int>(i) + 1, values[i]);
   update.step(subject);
   if (sqlite3_changes64(session->database.raw()) == 0) {
-    throw ado::Error(kRowGone, "El registro ya no existe: otro usuario lo ha borrado", subject);
+    throw ado::Error(ado::ErrorKind::Gone, kRowGone,
+                     "El registro ya no existe: otro usuario lo ha borrado", subject);
   }
-  // A changed key is the one to find the row by from now on.
+  // From now on the row is found by its changed key.
   for (std::size_t k = 0; k < key_.size(); ++k) {
     for (std::size_t i = 0; i < changes.size(); ++i) {
       if (ado::sameName(changes[i].first, table_.primaryKey[k])) key_[k] = values[i];

@@ -11,20 +11,20 @@
 
 namespace korvantes::sqlite {
 
-/// The open database as a recordset that outlives its connection may still hold it.
+/// The open database, which a recordset may try to reach after its connection was closed.
 struct Session {
-  Session(const std::string& file, const std::string& partner, int busyMilliseconds)
-      : database(file, partner, busyMilliseconds), transaction(database) {}
+  Session(const std::string& file, int busyMilliseconds)
+      : database(file, busyMilliseconds), transaction(database) {}
   Database database;
   Transaction transaction;
 };
 
-/// Writes changed fields of one row back, found by the key that it was fetched with.
+/// Writes changed fields of one row back. The row is found by the key it was fetched with.
 class RowUpdate : public ado::RowWriter {
  public:
   RowUpdate(std::weak_ptr<Session> session, tsql::TableDefinition table);
 
-  /// Takes the key from the first row of a result. Throws Error when a column of it is missing.
+  /// Takes the key from the first row of a result. Throws Error if a key column is missing.
   void rememberKey(const ado::Recordset& rows);
 
   void write(const std::vector<std::pair<std::string, ado::Variant>>& changes) override;

@@ -1,5 +1,6 @@
 #include "engines/sqlite/sqlite_connection.h"
 
+#include <filesystem>
 #include <unordered_map>
 #include <utility>
 
@@ -15,7 +16,7 @@ namespace {
 
 constexpr long kNotUpdatable = 3251;
 
-/// Frees a statement for its next use however its run ends.
+/// Resets a statement for its next use, whether its run succeeds or fails.
 class Run {
  public:
   explicit Run(Statement& statement) : statement_(&statement) {}
@@ -27,28 +28,89 @@ class Run {
   Statement* statement_;
 };
 
-std::shared_ptr<Session> openSession(const std::string& path, const OpenOptions& options) {
-  const DatabaseFiles files = findDatabaseFiles(path, options.create);
-  return std::make_shared<Session>(files.file, files.partner, options.busyMilliseconds);
+/// An open company file and what is known of the shared one beside it.
+struct Opened {
+  std::shared_ptr<Session> session;
+  DatabaseFiles files;
+};
+
+[[noreturn]] void refuseToOpen(const std::string& path, Content content) {
+  const char* words = content == Content::Missing ? "el fichero no existe"
+                      : content == Content::Empty ? "el fichero está vacío (0 bytes)"
+                                                  : "no tiene las tablas del programa";
+  throw ado::Error(SQLITE_CANTOPEN, "No se puede abrir la base de datos " + path + ": " + words);
+}
+
+/// Looks at both files before it creates or changes either.
+Opened openFiles(const std::string& path, const OpenOptions& options) {
+  DatabaseFiles files = databaseFilesOf(path);
+  const Content company = contentOf(files.file);
+  const Content shared = contentOf(files.partner);
+  requireNotForeign(files.file, company);
+  if (options.create) {
+    requireNotForeign(files.partner, shared);
+    if (shared == Content::Missing) makeFile(files.partner);
+    if (company == Content::Missing) makeFile(files.file);
+  } else if (company != Content::Ours) {
+    refuseToOpen(files.file, company);
+  }
+  auto session = std::make_shared<Session>(files.file, options.busyMilliseconds);
+  if (options.create || shared == Content::Ours) session->database.attach(files.partner);
+  return {std::move(session), std::move(files)};
+}
+
+/// Why statements on the shared tables cannot run while the shared file is not attached.
+ado::Error sharedMissing(const DatabaseFiles& files, std::string_view text) {
+  const std::filesystem::path shared = files.partner;
+  const std::string name = "«" + shared.filename().string() + "»";
+  const std::string folder = "«" + shared.parent_path().string() + "»";
+  std::string words;
+  switch (contentOf(files.partner)) {
+    case Content::Missing:
+      words = "No se encuentra la base de datos compartida " + name +
+              ": debe estar en la carpeta " + folder + ", junto a «" +
+              std::filesystem::path(files.file).filename().string() + "»";
+      break;
+    case Content::Foreign:
+      words = "El fichero " + name + " de la carpeta " + folder +
+              " no es la base de datos compartida, sino de otro programa";
+      break;
+    case Content::Ours:
+      words = "La base de datos compartida " + name + " de la carpeta " + folder +
+              " acaba de volver a su sitio: repita la operación";
+      break;
+    default:
+      words = "La base de datos compartida " + name + " de la carpeta " + folder +
+              " está vacía: le faltan las tablas";
+      break;
+  }
+  return {ado::ErrorKind::SharedMissing, SQLITE_CANTOPEN, words, text};
 }
 
 }  // namespace
 
 struct SqliteConnection::Impl {
-  Impl(const std::string& path, const OpenOptions& options)
-      : session(openSession(path, options)), store(session->database) {
+  explicit Impl(Opened opened)
+      : session(std::move(opened.session)),
+        files(std::move(opened.files)),
+        store(session->database) {
     reloadCatalogue();
   }
 
   void reloadCatalogue();
+  bool refreshCatalogue();
+  bool attachShared();
   tsql::BoundStatement compile(std::string_view text);
+  ado::Error explained(const ado::Error& error, std::string_view text) const;
   Statement& prepared(const tsql::BoundStatement& bound, std::string_view text);
-  void define(const tsql::BoundStatement& bound, std::string_view text);
+  void requireWritable(std::string_view text) const { session->database.requireInPlace(text); }
+  void define(tsql::BoundStatement bound, std::string_view text);
 
   std::shared_ptr<Session> session;
+  DatabaseFiles files;
   CatalogueStore store;
   std::shared_ptr<tsql::Catalogue> catalogue = std::make_shared<tsql::Catalogue>();
-  tsql::Compiler compiler{tsql::Compiler::Engine::SQLite, catalogue};
+  tsql::Compiler compiler{catalogue};
   std::pair<std::int64_t, std::int64_t> catalogueVersion;
   bool definedInTransaction = false;
 
@@ -65,7 +127,26 @@ void SqliteConnection::Impl::reloadCatalogue() {
   compiler.clear();
   catalogueVersion = store.version();
   *catalogue = store.load();
-  definedInTransaction = false;
+  definedInTransaction = definedInTransaction && session->database.inTransaction();
+}
+
+/// Takes over what other connections have declared or dropped. True if there was anything.
+bool SqliteConnection::Impl::refreshCatalogue() {
+  // Tables made in a transaction that SQLite gave up by itself are gone with it.
+  const bool undone = definedInTransaction && !session->database.inTransaction();
+  if (!undone && store.version() == catalogueVersion) return false;
+  reloadCatalogue();
+  return true;
+}
+
+/// Attaches a shared file that was brought back after the company's file was opened.
+bool SqliteConnection::Impl::attachShared() {
+  Database& database = session->database;
+  if (database.hasPartner() || database.inTransaction()) return false;
+  if (contentOf(files.partner) != Content::Ours) return false;
+  statements.clear();
+  database.attach(files.partner);
+  return true;
 }
 
 tsql::BoundStatement SqliteConnection::Impl::compile(std::string_view text) {
@@ -73,12 +154,23 @@ tsql::BoundStatement SqliteConnection::Impl::compile(std::string_view text) {
   if (definedInTransaction && !session->database.inTransaction()) reloadCatalogue();
   try {
     return compiler.compile(text);
-  } catch (const ado::Error&) {
+  } catch (const ado::Error& error) {
     // Another connection may have made the table that is missing here.
-    if (store.version() == catalogueVersion) throw;
+    const bool attached = error.kind() == ado::ErrorKind::SharedMissing && attachShared();
+    if (!refreshCatalogue() && !attached) throw explained(error, text);
   }
-  reloadCatalogue();
-  return compiler.compile(text);
+  try {
+    return compiler.compile(text);
+  } catch (const ado::Error& error) {
+    throw explained(error, text);
+  }
+}
+
+/// Names the shared file where the compiler can name only its table.
+ado::Error SqliteConnection::Impl::explained(const ado::Error& error, std::string_view text) const {
+  const bool unattached =
+      error.kind() == ado::ErrorKind::SharedMissing && !session->database.hasPartner();
+  return unattached ? sharedMissing(files, text) : error;
 }
 
 Statement& SqliteConnection::Impl::prepared(const tsql::BoundStatement& bound,
@@ -98,13 +190,17 @@ Statement& SqliteConnection::Impl::prepared(const tsql::BoundStatement& bound,
   return statement;
 }
 
-void SqliteConnection::Impl::define(const tsql::BoundStatement& bound, std::string_view text) {
-  const tsql::CompiledStatement& compiled = *bound.statement;
-  const std::string& target = compiled.created ? compiled.created->database : compiled.database;
+void SqliteConnection::Impl::define(tsql::BoundStatement bound, std::string_view text) {
+  // What others declared must not be lost sight of when this one changes the catalogue's version.
+  if (refreshCatalogue()) bound = compiler.compile(text);
+  const std::string target =
+      bound.statement->created ? bound.statement->created->database : bound.statement->database;
   if (!target.empty() && !session->database.hasPartner()) {
-    throw ado::Error(SQLITE_CANTOPEN, "No se encuentra la base de datos compartida " + target,
-                     text);
+    if (!attachShared()) throw sharedMissing(files, text);
+    reloadCatalogue();
+    bound = compiler.compile(text);
   }
+  const tsql::CompiledStatement& compiled = *bound.statement;
   // A statement that is still prepared would lock the table it reads.
   statements.clear();
   Savepoint together(session->database);
@@ -127,7 +223,7 @@ void SqliteConnection::Impl::define(const tsql::BoundStatement& bound, std::stri
 }
 
 SqliteConnection::SqliteConnection(const std::string& path, OpenOptions options)
-    : impl_(std::make_unique<Impl>(path, options)) {}
+    : impl_(std::make_unique<Impl>(openFiles(path, options))) {}
 
 SqliteConnection::~SqliteConnection() = default;
 
@@ -144,6 +240,7 @@ ado::Recordset SqliteConnection::Execute(std::string_view text, long long* rowsA
     case tsql::StatementKind::Insert:
     case tsql::StatementKind::Update:
     case tsql::StatementKind::Delete: {
+      impl_->requireWritable(text);
       Statement& statement = impl_->prepared(bound, text);
       const Run run(statement);
       statement.step(text);
@@ -151,6 +248,7 @@ ado::Recordset SqliteConnection::Execute(std::string_view text, long long* rowsA
       return {};
     }
     default:
+      impl_->requireWritable(text);
       impl_->define(bound, text);
       if (rowsAffected) *rowsAffected = 0;
       return {};
@@ -183,8 +281,8 @@ ado::Recordset SqliteConnection::OpenForUpdate(std::string_view text) {
   const auto* table =
       oneTable ? impl_->catalogue->find(compiled.database, compiled.table) : nullptr;
   if (!table || table->primaryKey.empty()) {
-    throw ado::Error(kNotUpdatable, "Solo se puede modificar una tabla con clave, y una sola",
-                     text);
+    throw ado::Error(ado::ErrorKind::Syntax, kNotUpdatable,
+                     "Solo se puede modificar una tabla con clave, y una sola", text);
   }
   const auto writer = std::make_shared<RowUpdate>(impl_->session, *table);
   Statement& statement = impl_->prepared(bound, text);
@@ -194,16 +292,16 @@ ado::Recordset SqliteConnection::OpenForUpdate(std::string_view text) {
   return rows;
 }
 
-bool SqliteConnection::hasTables() const {
-  return impl_->store.anyTable();
+bool SqliteConnection::hasTable(std::string_view database, std::string_view table) {
+  impl_->refreshCatalogue();
+  return impl_->catalogue->find(database, table) != nullptr;
 }
 
-std::size_t SqliteConnection::cacheHits() const {
-  return impl_->compiler.hits();
-}
-
-std::size_t SqliteConnection::cacheMisses() const {
-  return impl_->compiler.misses();
+bool holdsTables(const std::string& path) {
+  const DatabaseFiles files = databaseFilesOf(path);
+  const Content content = contentOf(files.file);
+  requireNotForeign(files.file, content);
+  return content == Content::Ours;
 }
 
 }  // namespace korvantes::sqlite

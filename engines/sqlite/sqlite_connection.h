@@ -1,7 +1,7 @@
-// engines/sqlite: the embedded engine. One file for the company, a second one beside it (the same
-// path with ".vespara" behind it) for what several applications share, attached as Vespara.
+// engines/sqlite: the embedded engine. One file for the company; a second one beside it (the same
+// path followed by ".vespara"), attached as Vespara, for what several applications share.
 //
-// Every statement passes the compiler; what it declared is kept in the file itself (table
+// Every statement passes through the compiler. What it declares is kept in the file itself (table
 // `korvantes_schema`), so that a file opened later brings its own catalogue of types.
 #pragma once
 
@@ -14,19 +14,21 @@ namespace korvantes::sqlite {
 
 /// How a database file is opened.
 struct OpenOptions {
-  /// Make the files when they are missing. Else a missing file is an Error; without its partner a
-  /// file opens, and only the statements that name the shared tables are refused.
+  /// Accept files that are missing or without tables, and create those that are missing. Otherwise
+  /// the company's file must hold tables; without the shared one it opens, and only statements on
+  /// the shared tables are refused.
   bool create = false;
   int busyMilliseconds = 5000;  ///< how long to wait for another user's write
 };
 
-/// A connection to a database file. WAL, full durability, immediate transactions; files are made
-/// with mode 0600, and a link in the place of a file is refused. Errors carry a Spanish sentence
-/// with SQLite's words and its extended result code; those of an arithmetic carry the server's.
+/// A connection to a database file: WAL, full durability, immediate transactions. Files are created
+/// with mode 0600. A link in the place of a file is refused, and so is a database of another
+/// program, before a byte of it changes or a file appears beside it. An Error's number is SQLite's
+/// extended result code; that of a wrong statement or a failed arithmetic is the server's.
 ///
-/// When SQLite gives a transaction up by itself (a full disk), further statements are refused until
-/// the caller knows, by RollbackTrans, by inTransaction or by a new BeginTrans: none of them is
-/// stored on its own.
+/// Before every write it makes sure that both files are still the ones that were opened (kind
+/// FileReplaced). A shared file that appears later is attached when a statement needs it and no
+/// transaction is open.
 class SqliteConnection : public ado::Connection {
  public:
   explicit SqliteConnection(const std::string& path, OpenOptions options = {});
@@ -41,16 +43,17 @@ class SqliteConnection : public ado::Connection {
   bool inTransaction() const override;
   ado::Recordset OpenForUpdate(std::string_view statement) override;
 
-  /// True when the file or its partner holds at least one table, of ours or of somebody else's.
-  bool hasTables() const;
-
-  /// Figures for benchmarks: texts that found their statement prepared, and texts compiled.
-  std::size_t cacheHits() const;
-  std::size_t cacheMisses() const;
+  /// Whether a table is declared, by whichever connection. `database` is empty for the company's
+  /// own tables and "Vespara" for the shared ones.
+  bool hasTable(std::string_view database, std::string_view table);
 
  private:
   struct Impl;
   std::unique_ptr<Impl> impl_;
 };
+
+/// Whether there is a database of ours under this path: false if the file is missing, empty, or a
+/// database in which nothing was ever declared. Changes nothing. Throws Error for anything else.
+bool holdsTables(const std::string& path);
 
 }  // namespace korvantes::sqlite

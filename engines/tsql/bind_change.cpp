@@ -62,7 +62,10 @@ const TableDefinition& Binder::tableOf(const syntax::TableName& name) const {
     refuse(Problem::NoDatabase, name.database.where, name.database.text);
   }
   const auto* table = catalogue_.find(name.database.text, name.table.text);
-  if (table == nullptr) refuse(Problem::NoTable, name.table.where, name.table.text);
+  if (table == nullptr) {
+    refuse(name.database.empty() ? Problem::NoTable : Problem::NoSharedTable, name.table.where,
+           name.table.text);
+  }
   return *table;
 }
 

@@ -68,7 +68,7 @@ ExpressionPtr Binder::lifted(const syntax::Expression& expression, ParameterUse 
   const auto* value = literalOf(expression, use.negated);
   if (value == nullptr) return nullptr;
   use.literal = value->number;
-  // Digits that the target has no room for stay in the text, where the comparison keeps them.
+  // Digits beyond the target's scale stay in the text, where the comparison keeps them.
   if (!convert(value->literal, use, text_)) return nullptr;
   const Type type = use.target;
   parameters_.push_back(std::move(use));

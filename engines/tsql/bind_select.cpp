@@ -41,7 +41,7 @@ bool isGrouped(const syntax::Core& core) {
   });
 }
 
-/// The result column an ORDER BY name stands for, from 1: an alias, and in a UNION any name.
+/// The result column that an ORDER BY name denotes, from 1: an alias, and in a UNION any name.
 std::optional<std::size_t> namedItem(const syntax::Name& name, const syntax::Core& core,
                                      const typed::Core& bound, bool anyName) {
   std::optional<std::size_t> found;
@@ -57,7 +57,7 @@ std::optional<std::size_t> namedItem(const syntax::Name& name, const syntax::Cor
   }
   std::size_t position = 0;
   for (const auto& item : core.items) {
-    // Stars have no alias; behind one, positions no longer follow the list.
+    // Stars have no alias; after one, positions no longer follow the list.
     if (!item.expression) return found;
     ++position;
     if (!item.alias.empty() && ado::sameName(item.alias.text, name.text)) meet(position);

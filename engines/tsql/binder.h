@@ -91,7 +91,7 @@ bool isCondition(const typed::Expression& expression);
 /// Whether the call is SUM, COUNT, MIN, MAX or AVG.
 bool isAggregate(const syntax::Call& call);
 
-/// Whether an aggregate of this SELECT stands in the expression (those of subqueries aside).
+/// Whether the expression contains an aggregate of this SELECT (those of subqueries aside).
 bool hasAggregate(const syntax::Expression& expression);
 
 /// The type a declaration or a CAST names; a text without a length has `textLength` characters.

@@ -31,7 +31,8 @@ const TableDefinition* Catalogue::find(std::string_view database, std::string_vi
 
 void Catalogue::add(TableDefinition table) {
   if (find(table.database, table.name) != nullptr) {
-    throw ado::Error(2714, "Ya existe una tabla de nombre «" + table.name + "».");
+    throw ado::Error(ado::ErrorKind::Syntax, 2714,
+                     "Ya existe una tabla de nombre «" + table.name + "».");
   }
   tables_.push_back(std::move(table));
 }

@@ -9,7 +9,7 @@
 
 namespace korvantes::tsql {
 
-/// The database that several applications share, the one name that may stand in front of dbo.
+/// The database that several applications share, the only name allowed before dbo.
 constexpr std::string_view kSharedDatabase = "Vespara";
 
 struct ColumnDefinition {
@@ -25,7 +25,7 @@ struct TableDefinition {
   std::vector<ColumnDefinition> columns;
   std::vector<std::string> primaryKey;
 
-  /// Position of a column by name without regard to case.
+  /// Position of a column by name, case-insensitive.
   std::optional<std::size_t> find(std::string_view column) const;
 };
 
@@ -34,7 +34,7 @@ struct TableDefinition {
 class Catalogue {
  public:
   const TableDefinition* find(std::string_view database, std::string_view table) const;
-  /// Throws ado::Error when the table is there already.
+  /// Throws ado::Error if the table exists already.
   void add(TableDefinition table);
   void remove(std::string_view database, std::string_view table);
   const std::vector<TableDefinition>& tables() const { return tables_; }

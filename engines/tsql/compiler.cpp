@@ -106,7 +106,7 @@ struct Entry {
     });
   }
 
-  /// The text's literals as parameters; false when one has digits this statement has no room for.
+  /// The text's literals as parameters; false if one has more digits than this statement can take.
   bool fill(const std::vector<Literal>& literals, std::string_view text,
             std::vector<StoredValue>& values) const {
     values.clear();
@@ -134,20 +134,9 @@ std::vector<std::pair<std::size_t, std::string>> structuralOf(
 }  // namespace
 
 struct Compiler::Impl {
-  Engine engine;
   std::shared_ptr<Catalogue> catalogue;
   std::unordered_map<std::string, std::vector<Entry>> cache;
   Fingerprint fingerprint;
-  std::size_t hits = 0;
-  std::size_t misses = 0;
-
-  std::string write(const typed::Statement& statement) const {
-    switch (engine) {
-      case Engine::SQLite:
-        return writeSqlite(statement);
-    }
-    return {};
-  }
 
   Entry compile(std::string_view text) const {
     const auto syntax = parse(text);
@@ -156,7 +145,7 @@ struct Compiler::Impl {
     if (bound.parameters.size() > kMostParameters) refuse(Problem::TooManyLiterals, {});
     auto statement = std::make_shared<CompiledStatement>();
     std::visit(Describer{*statement}, bound.node);
-    statement->text = write(bound);
+    statement->text = writeSqlite(bound);
     return {std::move(statement), std::move(bound.parameters), {}};
   }
 
@@ -177,13 +166,11 @@ struct Compiler::Impl {
         for (const auto& entry : found->second) {
           if (!entry.matches(fingerprint.literals)) continue;
           if (!entry.fill(fingerprint.literals, text, result.parameters)) continue;
-          ++hits;
           result.statement = entry.statement;
           return result;
         }
       }
     }
-    ++misses;
     Entry entry = compile(text);
     // A parameter left out would be a Null in silence.
     if (!entry.fill(fingerprint.literals, text, result.parameters))
@@ -198,9 +185,7 @@ struct Compiler::Impl {
   }
 };
 
-Compiler::Compiler(Engine engine, std::shared_ptr<Catalogue> catalogue)
-    : impl_(std::make_unique<Impl>()) {
-  impl_->engine = engine;
+Compiler::Compiler(std::shared_ptr<Catalogue> catalogue) : impl_(std::make_unique<Impl>()) {
   impl_->catalogue = std::move(catalogue);
 }
 
@@ -216,12 +201,6 @@ BoundStatement Compiler::compile(std::string_view text) {
 
 void Compiler::clear() {
   impl_->cache.clear();
-}
-std::size_t Compiler::hits() const {
-  return impl_->hits;
-}
-std::size_t Compiler::misses() const {
-  return impl_->misses;
 }
 
 }  // namespace korvantes::tsql

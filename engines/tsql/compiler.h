@@ -53,34 +53,29 @@ struct BoundStatement {
 /// Literals that decide how the statement is compiled (a scale, the 2 of ROUND, the 100 of a
 /// division, TOP, a length) stay part of the key.
 ///
-/// All failures are ado::Error in Spanish with the position (line and column from 1) and the word:
+/// Failures are ado::Errors in Spanish with the position (line and column from 1) and the word:
 /// a text outside the subset or with a second statement, an unknown table or column, an ambiguous
-/// name, types that do not go together, a literal that is no date or does not fit.
+/// name, incompatible types, a literal that is not a date or does not fit. Each has a kind: Syntax
+/// for a wrong text, SharedMissing for an unknown shared table, Overflow and Constraint for values.
 class Compiler {
  public:
-  enum class Engine { SQLite };
-
-  Compiler(Engine engine, std::shared_ptr<Catalogue> catalogue);
+  explicit Compiler(std::shared_ptr<Catalogue> catalogue);
   ~Compiler();
   Compiler(const Compiler&) = delete;
   Compiler& operator=(const Compiler&) = delete;
 
   BoundStatement compile(std::string_view text);
 
-  /// Forgets all compiled statements: after the catalogue has changed.
+  /// Forgets all compiled statements. To be called after the catalogue has changed.
   void clear();
-
-  /// Figures for benchmarks: texts found in the cache, and texts compiled.
-  std::size_t hits() const;
-  std::size_t misses() const;
 
  private:
   struct Impl;
   std::unique_ptr<Impl> impl_;
 };
 
-/// Cuts a file of statements into single ones: at lines that hold GO alone, and at lines that end
-/// in ';'. Comments between statements and empty pieces fall away; quotes are respected.
+/// Cuts a file of statements into single ones: at lines that consist of GO, and at lines that end
+/// in ';'. Comments between statements and empty pieces are dropped; quotes are respected.
 std::vector<std::string> splitStatements(std::string_view file);
 
 }  // namespace korvantes::tsql

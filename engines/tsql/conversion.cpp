@@ -47,7 +47,7 @@ ExpressionPtr toInt(ExpressionPtr value) {
   if (from.kind == TypeKind::Money || from.scale == 0) {
     value = rescaled(std::move(value), 0, intType());
   } else {
-    // A decimal loses what stands behind the point.
+    // A decimal loses the digits after the point.
     value = operate(Operation::Divide, intType(), {-from.scale}, std::move(value),
                     make(intType(), typed::Constant{std::int64_t{1}}));
   }

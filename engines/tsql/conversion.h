@@ -10,7 +10,7 @@
 
 namespace korvantes::tsql {
 
-/// Where an expression stands and what it is called in messages.
+/// Where an expression is in the text, and what messages call it.
 struct Place {
   Location where;
   std::string word;
@@ -34,8 +34,8 @@ bool isNullConstant(const typed::Expression& expression);
 /// The units of a constant number; nothing for anything else.
 std::optional<std::int64_t> constantUnits(const typed::Expression& expression);
 
-/// The type that two expressions meet in: of a CASE, a COALESCE, a UNION, a comparison. Nothing
-/// when they do not go together.
+/// The common type of two expressions: of a CASE, a COALESCE, a UNION, a comparison. Nothing
+/// if they are incompatible.
 std::optional<Type> commonType(const Type& a, const Type& b);
 
 /// A number at another scale. Multiplications and rescalings that follow each other become one

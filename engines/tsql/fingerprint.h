@@ -8,13 +8,13 @@
 
 namespace korvantes::tsql {
 
-/// A text with its literals taken out: what the cache goes by.
+/// A text without its literals: the key of the cache.
 struct Fingerprint {
   std::string key;
   std::vector<Literal> literals;
 
-  /// Reads a text in one pass. False, with nothing to rely on, for a text that cannot be read to
-  /// its end. The literals point into `text`.
+  /// Reads a text in one pass. False for a text that cannot be read to its end; the members are
+  /// then undefined. The literals point into `text`.
   bool read(std::string_view text);
 };
 

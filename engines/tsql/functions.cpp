@@ -172,7 +172,7 @@ StoredValue dateText(Arguments a) {
   return date->dayFirst();
 }
 
-/// Stands behind COALESCE, so that it is reached by a Null alone.
+/// The last argument of COALESCE, so that only a Null reaches it.
 StoredValue refuseNull(Arguments a) {
   throw failure(Problem::NullValue, text(a[0]));
 }

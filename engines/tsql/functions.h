@@ -8,12 +8,12 @@
 namespace korvantes::tsql {
 
 /// The functions that the SQLite writer's texts call. An engine registers every one of them, under
-/// its name, as deterministic. A call with a Null argument gives Null and does not reach the
+/// its name, as deterministic. A call with a Null argument returns Null and does not reach the
 /// function. A failure is an ado::Error with the server's number and Spanish words.
 ///
 /// Besides these the engine registers the collation KV_TEXT, which is ado::compareTexts.
 
-/// A function of whole numbers (counts, keys, units of exact numbers). Behind the operands stand
+/// A function of whole numbers (counts, keys, units of exact numbers). The operands are followed by
 /// the numbers of the operation (scales, places), which are constants of the text and never Null.
 struct NumberFunction {
   const char* name;
@@ -22,7 +22,7 @@ struct NumberFunction {
   std::int64_t (*call)(const std::int64_t* arguments);
 };
 
-/// A function that takes or gives a text.
+/// A function that takes or returns a text.
 struct ValueFunction {
   const char* name;
   int arguments;

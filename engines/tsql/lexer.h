@@ -12,14 +12,14 @@ namespace korvantes::tsql {
 struct Token {
   PieceKind kind = PieceKind::End;
   Location where;
-  std::string_view raw;  ///< as it stands in the text
+  std::string_view raw;  ///< as the text has it
   std::size_t offset = 0;
   std::size_t literal = 0;  ///< for a literal: which one of the text, from 0
 
-  /// The name that a word or a bracketed name stands for.
+  /// The name that a word or a bracketed name denotes.
   std::string name() const;
   bool isName() const { return kind == PieceKind::Word || kind == PieceKind::Bracketed; }
-  /// Whether it is this word of the language, without regard to case.
+  /// Whether it is this word of the language, case-insensitive.
   bool is(std::string_view keyword) const;
   bool isSymbol(std::string_view symbol) const {
     return kind == PieceKind::Symbol && raw == symbol;

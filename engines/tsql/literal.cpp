@@ -64,7 +64,7 @@ StoredValue assignedNumber(std::int64_t units, const Literal& literal, const Typ
     }
     return fixedText(text, target);
   }
-  // A whole number takes what stands in front of the point; money and decimals round.
+  // A whole number takes the digits before the point; money and decimals round.
   const auto rescaled = target.kind == TypeKind::Int && scale > 0
                             ? divideUnits(units, 1, -scale)
                             : rescaleUnits(units, scale, target.scale);

@@ -12,7 +12,7 @@
 
 namespace korvantes::tsql {
 
-/// A literal as it stands in the text.
+/// A literal as the text has it.
 struct Literal {
   PieceKind kind = PieceKind::Whole;
   std::string_view raw;
@@ -32,7 +32,7 @@ StoredValue valueOf(const Literal& literal);
 /// How a lifted literal becomes a parameter of the compiled statement.
 struct ParameterUse {
   std::size_t literal = 0;  ///< which of the text's literals, from 0
-  bool negated = false;     ///< a minus stands in front of it
+  bool negated = false;     ///< preceded by a minus
   Type target;              ///< the type it meets
   /// Compared with the target, so that no digit may be lost; else assigned to it, by the server's
   /// rules (rounding, "too long" an error).
@@ -40,7 +40,7 @@ struct ParameterUse {
   std::string column;  ///< the column it is assigned to
 };
 
-/// The parameter's value; nothing when a compared number has more digits than the target has.
+/// The parameter's value; nothing if a compared number has more digits than the target has.
 /// Throws Refusal with the literal's place in `text`.
 std::optional<StoredValue> convert(const Literal& literal, const ParameterUse& use,
                                    std::string_view text);

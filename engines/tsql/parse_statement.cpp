@@ -162,7 +162,7 @@ Statement parseAny(TokenStream& in) {
   in.refuseHere("SELECT, INSERT, UPDATE, DELETE, CREATE o DROP");
 }
 
-/// Words that begin a statement: behind a complete one they are a second statement.
+/// Words that begin a statement: after a complete one they are a second statement.
 bool beginsStatement(const Token& token) {
   for (const std::string_view word : {"SELECT", "INSERT", "UPDATE", "DELETE", "CREATE", "DROP",
                                       "ALTER", "EXEC", "EXECUTE", "TRUNCATE", "DECLARE", "BEGIN"}) {

@@ -7,16 +7,16 @@
 
 namespace korvantes::tsql {
 
-/// Reads a text that holds one statement and nothing else (one ';' at its end is allowed). Throws
+/// Reads a text that consists of a single statement (one ';' at its end is allowed). Throws
 /// Refusal.
 syntax::Statement parse(std::string_view text);
 
-// The parser's parts, each of which reads its construct from where the stream stands.
+// The parts of the parser, each of which reads its construct from the stream's position on.
 syntax::ExpressionPtr parseExpression(TokenStream& in);
 syntax::Select parseSelect(TokenStream& in);
 syntax::TableName parseTableName(TokenStream& in);
 syntax::TypeName parseTypeName(TokenStream& in);
-/// Behind CREATE and DROP.
+/// After CREATE and DROP.
 syntax::Statement parseCreate(TokenStream& in);
 syntax::Statement parseDrop(TokenStream& in);
 

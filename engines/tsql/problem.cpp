@@ -37,6 +37,8 @@ Words wordsOf(Problem problem) {
       return {911, "no existe la base de datos «{word}»"};
     case Problem::NoTable:
       return {208, "no existe la tabla «{word}»"};
+    case Problem::NoSharedTable:
+      return {208, "la base de datos compartida no tiene la tabla «{word}»"};
     case Problem::NoColumn:
       return {207, "no existe la columna «{word}»"};
     case Problem::NoFunction:
@@ -109,6 +111,36 @@ Words wordsOf(Problem problem) {
   return {0, ""};
 }
 
+ado::ErrorKind kindOf(Problem problem) {
+  switch (problem) {
+    case Problem::NoSharedTable:
+      return ado::ErrorKind::SharedMissing;
+    case Problem::IdentityValue:
+    case Problem::NullValue:
+    case Problem::MissingValue:
+      return ado::ErrorKind::Constraint;
+    case Problem::TooManyDecimals:
+    case Problem::NumberTooLarge:
+    case Problem::TextTooLong:
+    case Problem::Overflow:
+      return ado::ErrorKind::Overflow;
+    case Problem::NoNumber:
+    case Problem::NoDate:
+    case Problem::DivisionByZero:
+    case Problem::TooManyRows:
+      return ado::ErrorKind::Other;
+    default:
+      return ado::ErrorKind::Syntax;
+  }
+}
+
+/// A sentence on its own, without a place in front.
+std::string asSentence(std::string text) {
+  if (text.front() >= 'a' && text.front() <= 'z')
+    text.front() = static_cast<char>(text.front() - 32);
+  return text;
+}
+
 void replace(std::string& text, std::string_view mark, std::string_view by) {
   const auto position = text.find(mark);
   if (position != std::string::npos) text.replace(position, mark.size(), by);
@@ -142,20 +174,18 @@ void refuse(Problem problem, Location where, std::string_view word, std::string_
 
 ado::Error describe(const Refusal& refusal, std::string_view statement) {
   const auto words = wordsOf(refusal.problem);
+  const std::string text = wordsWith(words.text, refusal.word, refusal.detail);
+  // Neither is about a place in the statement.
+  const bool whole = refusal.problem == Problem::Empty || refusal.problem == Problem::NoSharedTable;
   const std::string place = "Línea " + std::to_string(refusal.where.line) + ", columna " +
                             std::to_string(refusal.where.column) + ": ";
-  if (refusal.problem == Problem::Empty) {
-    return {words.number, "La sentencia está vacía.", statement};
-  }
-  return {words.number, place + wordsWith(words.text, refusal.word, refusal.detail), statement};
+  return {kindOf(refusal.problem), words.number, whole ? asSentence(text) : place + text,
+          statement};
 }
 
 ado::Error failure(Problem problem, std::string_view word, std::string_view detail) {
   const auto words = wordsOf(problem);
-  std::string text = wordsWith(words.text, word, detail);
-  if (text.front() >= 'a' && text.front() <= 'z')
-    text.front() = static_cast<char>(text.front() - 32);
-  return {words.number, text};
+  return {kindOf(problem), words.number, asSentence(wordsWith(words.text, word, detail))};
 }
 
 }  // namespace korvantes::tsql

@@ -19,7 +19,7 @@ struct Location {
 /// The place of a byte of the text.
 Location locate(std::string_view text, std::size_t offset);
 
-/// What can be wrong with a statement or go wrong while it runs. The words stand in problem.cpp.
+/// What can be wrong with a statement or go wrong while it runs. The words are in problem.cpp.
 enum class Problem {
   // the text
   Empty,
@@ -36,6 +36,7 @@ enum class Problem {
   // names
   NoDatabase,
   NoTable,
+  NoSharedTable,
   NoColumn,
   NoFunction,
   NoType,
@@ -73,7 +74,7 @@ enum class Problem {
   TooManyRows,
 };
 
-/// A problem before it has found its words: thrown by the lexer, the parser and the binder.
+/// A problem not yet put into words, as the lexer, the parser and the binder throw it.
 struct Refusal {
   Problem problem;
   Location where;
@@ -84,10 +85,10 @@ struct Refusal {
 [[noreturn]] void refuse(Problem problem, Location where, std::string_view word = {},
                          std::string_view detail = {});
 
-/// The Spanish words of a refusal, with its place.
+/// The error for a refusal: its kind, and its Spanish words with the place in the statement.
 ado::Error describe(const Refusal& refusal, std::string_view statement);
 
-/// A problem met while a statement runs, where there is no place in the text to point at.
+/// The error for a problem that appears while a statement runs, when there is no place to name.
 ado::Error failure(Problem problem, std::string_view word = {}, std::string_view detail = {});
 
 }  // namespace korvantes::tsql

@@ -7,7 +7,7 @@ namespace korvantes::tsql {
 
 /// The arithmetic that compiled statements call for while they run: whole numbers of units with a
 /// 128-bit intermediate. An engine registers these functions under the names its writer uses
-/// (engines/tsql/functions.h). Nothing is returned when a result leaves 64 bits or a division
+/// (engines/tsql/functions.h). Nothing is returned if a result does not fit 64 bits or a division
 /// is by zero; the engine turns that into the server's error.
 
 /// a + b, a - b, a * b.
@@ -15,7 +15,7 @@ std::optional<std::int64_t> addUnits(std::int64_t a, std::int64_t b);
 std::optional<std::int64_t> subtractUnits(std::int64_t a, std::int64_t b);
 std::optional<std::int64_t> multiplyUnits(std::int64_t a, std::int64_t b);
 
-/// units x 10^(toScale - fromScale), half away from zero where digits fall away.
+/// units x 10^(toScale - fromScale), half away from zero if digits are dropped.
 std::optional<std::int64_t> rescaleUnits(std::int64_t units, int fromScale, int toScale);
 
 /// ROUND(x, places) of a number of scale `scale`, half away from zero, at the same scale.

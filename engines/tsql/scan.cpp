@@ -27,7 +27,7 @@ constexpr std::array<Class, 256> makeClasses() {
 
 constexpr auto kClasses = makeClasses();
 
-/// The text with a safe way to look at any position: behind its end stands a NUL.
+/// A text that can be read at any position: past its end there is a NUL.
 struct Reader {
   std::string_view text;
 
@@ -36,7 +36,7 @@ struct Reader {
   bool isDigit(std::size_t i) const { return classAt(i) == Class::Digit; }
 };
 
-/// Position behind blanks and comments; text.size() + 1 when a comment is never closed, with its
+/// Position after blanks and comments; text.size() + 1 if a comment is never closed, with its
 /// beginning in `comment`.
 std::size_t skipBlanks(const Reader& in, std::size_t i, std::size_t& comment) {
   while (true) {
@@ -56,7 +56,7 @@ std::size_t skipBlanks(const Reader& in, std::size_t i, std::size_t& comment) {
   }
 }
 
-/// A text or a bracketed name, whose closing character may stand doubled inside.
+/// A text or a bracketed name, whose closing character may occur doubled inside.
 Piece enclosed(const Reader& in, PieceKind kind, std::size_t begin, std::size_t inside,
                char closing) {
   for (std::size_t i = inside;; i += 2) {

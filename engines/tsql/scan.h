@@ -6,8 +6,8 @@
 
 namespace korvantes::tsql {
 
-/// What a statement's text consists of, blanks and comments aside. The lexer and the cache's look
-/// at a text both go by this one scan, so that they always agree on which literal is which.
+/// What a statement's text consists of, blanks and comments aside. The lexer and
+/// the cache both use this scan, so that they always agree on which literal is which.
 enum class PieceKind : std::uint8_t {
   End,
   Word,
@@ -28,7 +28,7 @@ struct Piece {
   std::size_t end;
 };
 
-/// The piece at or behind `from`.
+/// The next piece, at or after `from`.
 Piece nextPiece(std::string_view text, std::size_t from);
 
 constexpr bool isLiteral(PieceKind kind) {

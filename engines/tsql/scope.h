@@ -21,14 +21,15 @@ struct Scope {
   Scope* outer = nullptr;
   std::vector<ScopeSource> sources;
 
-  /// Where aggregates may stand: the select list, HAVING and ORDER BY.
+  /// Where aggregates are allowed: the select list, HAVING and ORDER BY.
   bool aggregatesAllowed = false;
   bool insideAggregate = false;
   /// Rows are grouped: outside aggregates only the columns of GROUP BY have one value.
   bool grouped = false;
   std::vector<std::pair<int, std::string>> groupColumns;
 
-  /// Columns found here and in outer scopes so far: tells whether an aggregate is about this scope.
+  /// Columns found here and in outer scopes so far: tells whether an aggregate belongs to this
+  /// scope.
   int ownReferences = 0;
 
   /// Adds a source; two of one name are refused.

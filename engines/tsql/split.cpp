@@ -18,7 +18,7 @@ std::string_view trimmed(std::string_view text) {
 }
 
 /// Where the quoted text, bracketed name or comment that begins at `position` ends; `position`
-/// itself when none begins there. What is never closed reaches to the end of the file.
+/// itself if none begins there. If it is never closed, it extends to the end of the file.
 std::size_t behindClosed(std::string_view file, std::size_t position) {
   const auto rest = file.substr(position);
   const auto behind = [&](std::string_view closing, std::size_t from) {
@@ -35,7 +35,7 @@ std::size_t behindClosed(std::string_view file, std::size_t position) {
   return position;
 }
 
-/// The statement without the comments in front of it and behind it.
+/// The statement without the comments before and after it.
 std::string_view withoutOuterComments(std::string_view piece) {
   piece = trimmed(piece);
   while (piece.starts_with("--") || piece.starts_with("/*")) {

@@ -1,3 +1,4 @@
+#include "engines/tsql/quoted_names.h"
 #include "engines/tsql/sqlite_writer.h"
 
 namespace korvantes::tsql {
@@ -33,19 +34,6 @@ std::string columnOf(const ColumnDefinition& column, const TableDefinition& tabl
 }
 
 }  // namespace
-
-std::string quotedName(const std::string& name) {
-  std::string quoted = "\"";
-  for (const char c : name) {
-    quoted += c;
-    if (c == '"') quoted += c;
-  }
-  return quoted + "\"";
-}
-
-std::string qualifiedName(const std::string& database, const std::string& table) {
-  return database.empty() ? quotedName(table) : quotedName(database) + "." + quotedName(table);
-}
 
 std::string writeSqlite(const typed::CreateTable& create) {
   const auto& table = create.table;

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "engines/tsql/quoted_names.h"
+
 namespace korvantes::tsql {
 
 namespace {
@@ -77,15 +79,6 @@ bool needsCollation(const typed::Expression& expression) {
   return isText(expression.type) && !isColumn(expression);
 }
 
-std::string quotedText(const std::string& text) {
-  std::string quoted = "'";
-  for (const char c : text) {
-    quoted += c;
-    if (c == '\'') quoted += c;
-  }
-  return quoted + "'";
-}
-
 std::string hexOf(const ado::Bytes& bytes) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string hex = "X'";
@@ -117,7 +110,7 @@ class Writer {
       write(select.cores[i], select.cores.size() > 1, alias);
     }
     writeOrder(select);
-    // TOP stands in front, its counterpart at the end.
+    // TOP comes first, its counterpart last.
     if (const auto& top = select.cores.front().top) out_ += " LIMIT " + std::to_string(*top);
   }
 

@@ -16,9 +16,4 @@ std::string writeSqlite(const typed::CreateTable& create);
 std::string writeSqlite(const typed::CreateIndex& create);
 std::string writeSqlite(const typed::DropTable& drop);
 
-/// A name in double quotes.
-std::string quotedName(const std::string& name);
-/// "Vespara"."PAIS".
-std::string qualifiedName(const std::string& database, const std::string& table);
-
 }  // namespace korvantes::tsql

@@ -28,7 +28,7 @@ struct Name {
 };
 
 struct ColumnName {
-  Name qualifier;  ///< empty where the column stands alone
+  Name qualifier;  ///< empty if the column has none
   Name column;
 };
 

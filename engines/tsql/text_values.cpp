@@ -20,7 +20,7 @@ std::string_view withoutBlanks(std::string_view text) {
   return text;
 }
 
-/// Number in front of `scale` decimals, with the digits behind them dropped by rounding; nothing
+/// Number with `scale` decimals, further digits dropped by rounding; nothing
 /// when the text is no number.
 std::optional<Wide> parseUnits(std::string_view text, int scale, bool pointAllowed) {
   const bool negative = text.starts_with('-');
@@ -128,7 +128,7 @@ std::string storedText(std::string_view text, const Type& target, std::string_vi
 
 namespace {
 
-/// One set of a pattern; `position` stands behind its '[' and is moved behind its ']'.
+/// One set of a pattern; `position` is after its '[' and moves past its ']'.
 bool inSet(char32_t character, std::u32string_view pattern, std::size_t& position) {
   const bool negated = position < pattern.size() && pattern[position] == U'^';
   if (negated) ++position;
@@ -201,7 +201,7 @@ bool matchesLike(std::string_view text, std::string_view pattern) {
   const auto elements = folded(pattern);
   std::size_t at = 0;
   std::size_t element = 0;
-  // Where the last % stands and how far it reaches: the place to try again from.
+  // The last % and how far it reaches: where to try again from.
   std::optional<std::size_t> behindPercent;
   std::size_t retry = 0;
   const auto textEnd = characters.find_last_not_of(U' ') + 1;

@@ -10,11 +10,11 @@
 namespace korvantes::tsql {
 
 /// How numbers, dates and texts turn into one another. A failure is a Refusal without a place:
-/// the caller knows where the value stands, if it stands in a text at all.
+/// the caller knows where the value is, if it is in a text at all.
 
-/// Units of `type` (a number) that a text stands for: blanks around it are allowed, digits with at
+/// The value of a text in units of `type` (a number): blanks around it are allowed, digits with at
 /// most one point. Digits beyond the scale round half away from zero; a whole number takes no
-/// point. A blank text is 0, as the server has it, but for decimals an error.
+/// point. A blank text is 0, as on the server, but an error for decimals.
 std::int64_t unitsFromText(std::string_view text, const Type& type);
 
 /// "yyyy-mm-dd" of a text dd/mm/yyyy, trailing blanks allowed, or of one that has that form
@@ -29,7 +29,7 @@ std::string textFromUnits(std::int64_t units, const Type& from, const Type& targ
 /// The text cut to the type's length and, for char(n), padded with blanks.
 std::string fixedText(std::string_view text, const Type& target);
 
-/// The text as a column of `target` stores it: blanks beyond the length fall away, char(n) is
+/// The text as a column of `target` stores it: blanks beyond the length are dropped, char(n) is
 /// padded. A longer text is an error that names the column.
 std::string storedText(std::string_view text, const Type& target, std::string_view column);
 
@@ -39,7 +39,7 @@ bool matchesLike(std::string_view text, std::string_view pattern);
 std::string upperCase(std::string_view text);
 std::string lowerCase(std::string_view text);
 
-/// The value as an int, when it is within 32 bits.
+/// The value as an int, if it fits 32 bits.
 std::optional<std::int64_t> asInt(std::int64_t value);
 
 /// Whether the value has at most `digits` digits.

@@ -8,8 +8,8 @@
 
 namespace korvantes::tsql {
 
-/// The parser's way through the tokens. What is expected and not there is refused with the token
-/// that stands in its place.
+/// The tokens as the parser consumes them. If an expected token is missing, the text is refused
+/// with the token found in its place.
 class TokenStream {
  public:
   explicit TokenStream(std::vector<Token> tokens) : tokens_(std::move(tokens)) {}
@@ -24,7 +24,7 @@ class TokenStream {
   void expect(std::string_view keyword);
   void expectSymbol(std::string_view symbol);
 
-  /// Whether a name stands here: a bracketed one, or a word that is none of the language's own.
+  /// Whether the next token is a name: a bracketed one, or a word that is not a keyword.
   bool atName() const;
   syntax::Name name(std::string_view what);
   syntax::LiteralValue literal(PieceKind kind, std::string_view what);

@@ -23,7 +23,7 @@ using ExpressionPtr = std::unique_ptr<Expression>;
 using SelectPtr = std::unique_ptr<Select>;
 
 /// What an expression does with its operands. Numbers are units; the scales and lengths that an
-/// operation needs besides its operands stand in `numbers`, in the order given here.
+/// operation needs besides its operands are in `numbers`, in the order given here.
 enum class Operation {
   Add,
   Subtract,

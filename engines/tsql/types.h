@@ -4,13 +4,13 @@
 
 namespace korvantes::tsql {
 
-/// A type of the server, as far as the subset knows them.
+/// A type of the server that the subset knows.
 enum class TypeKind {
   Null,      ///< the word NULL before it meets a typed neighbour
   Bit,       ///< 0 or 1
   Int,       ///< 32 bits; counts are of this type too
   Money,     ///< exact, four decimals, 64 bits
-  Decimal,   ///< exact, `precision` digits of which `scale` behind the point
+  Decimal,   ///< exact, `precision` digits of which `scale` after the point
   Date,      ///< a day
   VarChar,   ///< up to `length` characters, 0 for max
   Char,      ///< exactly `length` characters, padded with blanks
@@ -20,7 +20,7 @@ enum class TypeKind {
 struct Type {
   TypeKind kind = TypeKind::Null;
   int precision = 0;  ///< Decimal: digits in all
-  int scale = 0;      ///< Decimal: digits behind the point; Money: 4; Int and Bit: 0
+  int scale = 0;      ///< Decimal: digits after the point; Money: 4; Int and Bit: 0
   int length = 0;     ///< VarChar, Char, VarBinary: characters or bytes, 0 for max
 
   friend bool operator==(const Type&, const Type&) = default;
@@ -44,7 +44,7 @@ Type intType();
 Type moneyType();
 Type dateType();
 Type decimalType(int precision, int scale);
-/// 0 stands for max.
+/// 0 means max.
 Type varCharType(int length);
 
 }  // namespace korvantes::tsql

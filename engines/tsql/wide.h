@@ -10,7 +10,7 @@ namespace korvantes::tsql {
 /// Intermediate results: products of two unit counts never overflow it.
 __extension__ using Wide = __int128;
 
-/// Nothing when the value leaves 64 bits.
+/// Nothing if the value does not fit 64 bits.
 inline std::optional<std::int64_t> narrow(Wide value) {
   const auto narrowed = static_cast<std::int64_t>(value);
   return narrowed == value ? std::optional(narrowed) : std::nullopt;

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <stdlib.h>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -85,18 +84,15 @@ SheetFile::SheetFile(const fs::path& place) : place_(place) {
   const fs::file_status status = fs::status(place_, failure);
   if (fs::exists(status)) requireReplaceable(place_, status);
 
-  std::string name = (beside / ".korvantes-XXXXXX").string();
-  if (::mkdtemp(name.data()) == nullptr) throw writeFailure(place_, errno);
-  folder_ = name;
-}
-
-SheetFile::~SheetFile() {
-  std::error_code ignored;
-  fs::remove_all(folder_, ignored);
+  try {
+    folder_.emplace(beside, ".korvantes-");
+  } catch (const ado::Error& error) {
+    throw writeFailure(place_, static_cast<int>(error.number()));
+  }
 }
 
 fs::path SheetFile::draft() const {
-  return folder_ / "hoja.xlsx";
+  return folder() / "hoja.xlsx";
 }
 
 void SheetFile::commit() {

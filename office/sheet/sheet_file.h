@@ -1,9 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "runtime/ado/error.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::office {
 
@@ -19,12 +21,9 @@ class SheetFile {
   /// in its place that is write-protected, locked by another program, or no file at all. A symbolic
   /// link in its place is followed.
   explicit SheetFile(const std::filesystem::path& place);
-  ~SheetFile();
-  SheetFile(const SheetFile&) = delete;
-  SheetFile& operator=(const SheetFile&) = delete;
 
   /// For temporary files, on the same disk.
-  const std::filesystem::path& folder() const { return folder_; }
+  const std::filesystem::path& folder() const { return folder_->path(); }
   /// Where to write the contents.
   std::filesystem::path draft() const;
   /// Puts the draft in its place, once its bytes are on the disk; a file that it replaces hands on
@@ -32,7 +31,8 @@ class SheetFile {
   void commit();
 
  private:
-  std::filesystem::path place_, folder_;
+  std::filesystem::path place_;
+  std::optional<ado::TemporaryFolder> folder_;
 };
 
 }  // namespace korvantes::office

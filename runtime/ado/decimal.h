@@ -10,8 +10,8 @@ namespace korvantes::ado {
 
 /// An exact decimal number: a whole number of units of 10^-scale.
 ///
-/// 8.59 as money is 85900 units of scale 4. There is no implicit way from a double, so that no
-/// binary fraction slips into an amount. Comparison is by value: 1.5 equals 1.50.
+/// 8.59 as money is 85900 units of scale 4. There is no implicit conversion from a double, so that
+/// no binary fraction slips into an amount. Comparison is by value: 1.5 equals 1.50.
 class Decimal {
  public:
   /// Scale of amounts of money.
@@ -26,12 +26,12 @@ class Decimal {
   constexpr std::int64_t units() const { return units_; }
   constexpr int scale() const { return scale_; }
 
-  /// Reads "-12.50" (a point, no thousands separators). Nothing when the text is anything else or
+  /// Reads "-12.50" (a point, no thousands separators). Nothing if the text is anything else or
   /// does not fit 64 bits.
   static std::optional<Decimal> parse(std::string_view text);
 
-  /// The same number at another scale; digits that fall away round half away from zero:
-  /// 1.005 at 2 is 1.01, -1.005 at 2 is -1.01. Throws ConversionError when it does not fit.
+  /// The same number at another scale; dropped digits round half away from zero:
+  /// 1.005 at 2 is 1.01, -1.005 at 2 is -1.01. Throws ConversionError if it does not fit.
   Decimal rescaled(int scale) const;
 
   /// a × b / 10^shift at the given scale: exact up to the one rounding, half away from zero.
@@ -56,7 +56,7 @@ class Decimal {
   int scale_ = 0;
 };
 
-/// The decimal number that a double stands for when written with 15 significant digits, rounded
+/// The decimal number that a double shows when written with 15 significant digits, rounded
 /// half away from zero to `places` decimals: 1.005 gives 1.01, 2.925 gives 2.93, -0.005 gives
 /// -0.01. Throws ConversionError for infinities, NaN and values beyond 64 bits.
 Decimal decimalFromDouble(double value, int places);

@@ -1,7 +1,7 @@
-// outside/ado: values, recordsets and connections, as every layer passes them on.
+// runtime/ado: values, recordsets and connections, which every layer passes on.
 //
 // Nothing here knows an engine. Values are exact: money and percentages are scaled integers and
-// become a double only where a caller asks for one.
+// become a double only if a caller asks for one.
 #pragma once
 
 #include <stdexcept>
@@ -12,35 +12,36 @@ namespace korvantes::ado {
 
 /// What went wrong, for callers that act on it. The same on every engine.
 enum class ErrorKind {
-  Other,            ///< none of the others; the words say it
-  Busy,             ///< another user has what is needed; trying again later may work
-  Duplicate,        ///< the row, or one with its key, is there already
+  Other,            ///< none of the others; the sentence says which
+  Busy,             ///< another user holds what is needed; trying again later may work
+  Duplicate,        ///< a row with the same key exists already
   Constraint,       ///< the data break another rule of the table
-  Gone,             ///< the row was deleted, or changed, by somebody else
-  TransactionLost,  ///< the open transaction was given up; roll it back
+  Gone,             ///< somebody else has deleted the row
+  TransactionLost,  ///< the engine gave up the open transaction; roll it back
   ConnectionLost,   ///< the database can no longer be reached
-  SharedMissing,    ///< the shared database is not there
+  SharedMissing,    ///< the shared database, or a table of it, does not exist
   FileReplaced,     ///< the open database file was deleted, renamed or replaced
   DiskFull,
   NotPermitted,  ///< read-only, or a right is missing
-  Damaged,       ///< the file is no database, or a broken one
+  Damaged,       ///< the file is not a database of ours, or a broken one
   Syntax,        ///< the statement, or a name in it, is wrong
   Overflow,      ///< a value does not fit its type
 };
 
 /// A failure of a connection or of a statement.
 ///
-/// what() is a sentence for the user: ours where the kind has one, else the engine's own words. The
-/// subject is the beginning of the statement that failed: it names the table or the clause, and it
-/// is cut short so that no long list of values ends up in a message.
+/// what() is a Spanish sentence for the user; the engine's own words appear in it only if no
+/// sentence of ours covers the failure. The subject is the beginning of the statement that failed:
+/// it names the table or the clause, and is cut short so that no long list of values ends up in a
+/// message.
 class Error : public std::runtime_error {
  public:
   /// A failure of no particular kind.
-  /// @param number the engine's error number, 0 where it has none
+  /// @param number the engine's error number, 0 if it has none
   /// @param words the sentence for the user
-  /// @param statement the statement that failed, empty where there was none
+  /// @param statement the statement that failed, empty if there was none
   Error(long number, const std::string& words, std::string_view statement = {});
-  /// @param sqlState the five characters of the engine's SQLSTATE, empty where it has none
+  /// @param sqlState the five characters of the engine's SQLSTATE, empty if it has none
   Error(ErrorKind kind, long number, const std::string& words, std::string_view statement = {},
         std::string_view sqlState = {});
 
@@ -56,7 +57,7 @@ class Error : public std::runtime_error {
   std::string subject_;
 };
 
-/// The first words of a statement, one line, at most 60 characters.
+/// The first words of a statement: one line of at most 60 characters.
 std::string subjectOf(std::string_view statement);
 
 /// A value that cannot be read as what the caller asked for: Null as a number, text as a date, a

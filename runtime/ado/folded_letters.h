@@ -5,7 +5,7 @@
 namespace korvantes::ado {
 
 /// A letter for comparison: the code of its bare small letter, and the place of its accent among
-/// the combining marks (U+0300 is 1), 0 without one.
+/// the combining marks (U+0300 is 1), 0 if it has none.
 struct FoldedLetter {
   char16_t letter;
   unsigned char accent;

@@ -38,7 +38,7 @@ struct FieldDefinition {
 /// a result of a few rows costs no copies of names.
 using FieldDefinitions = std::shared_ptr<const std::vector<FieldDefinition>>;
 
-/// What writes a changed row back to where it was fetched from; an engine gives one to a
+/// Writes a changed row back to where it was fetched from. An engine passes one to a
 /// recordset opened for update.
 class RowWriter {
  public:
@@ -54,11 +54,11 @@ class Field {
  public:
   const std::string& Name() const;
   const FieldDefinition& definition() const;
-  /// Throws Error when there is no current row.
+  /// Throws Error if there is no current row.
   const Variant& Value() const;
   /// Changes the current row: a row being added, a row of a recordset built by hand, or one opened
   /// for update. Text longer than the field's size is cut to it, by characters; a number or a date
-  /// of another kind is converted to the field's type, Null is taken everywhere. Throws
+  /// of another kind is converted to the field's type, Null is accepted everywhere. Throws
   /// ConversionError for a value that the type cannot hold, Error without a current row or on a
   /// result that cannot be changed. The change is kept by Update and dropped by CancelUpdate or by
   /// moving away; until then only this cursor sees it.
@@ -78,8 +78,8 @@ class Fields {
   std::size_t Count() const;
   /// Adds a field to a recordset that is not open yet. Throws Error on an open one.
   void Append(const std::string& name, FieldType type, int size = 0);
-  /// By position from 0, or by name without regard to case; of two fields of one name the first.
-  /// Throws Error, naming the field, when there is none.
+  /// By position from 0, or by name, case-insensitively; the first of two fields with one name.
+  /// Throws Error, naming the field, if there is none.
   Field operator()(std::size_t position) const;
   Field operator()(std::string_view name) const;
 
@@ -89,16 +89,16 @@ class Fields {
   const Recordset* owner_;
 };
 
-/// Place of a row, good for all clones of one recordset. Empty when there is no current row.
+/// The position of a row, valid in all clones of one recordset. Empty if there is no current row.
 using Bookmark = std::optional<std::size_t>;
 
 /// A scrollable cursor over rows held in memory, with an exact count.
 ///
-/// A handle: copies share the cursor, as clients of ADO copy references. Clone gives a second
-/// cursor over the same rows. A default-made recordset is closed and has no fields; it can be
-/// built by hand (Fields().Append, Open, AddNew, Update). Positions are those of ADO: opening puts
-/// the cursor on the first row; an empty recordset is at BOF and EOF together; moving before the
-/// first or behind the last row leaves the cursor there, one move further is an Error.
+/// A handle: copies share the cursor, as clients of ADO copy references. Clone returns a second
+/// cursor over the same rows. A default-constructed recordset is closed and has no fields; it can
+/// be built by hand (Fields().Append, Open, AddNew, Update). Positions are those of ADO: opening
+/// puts the cursor on the first row; an empty recordset is at BOF and EOF together; moving before
+/// the first or after the last row leaves the cursor there, one move further is an Error.
 class Recordset {
  public:
   enum class Direction { Forward = 1, Backward = -1 };
@@ -133,11 +133,11 @@ class Recordset {
   void MovePrevious();
   void MoveLast();
 
-  /// Looks for a row from the current one on (plus `skip`), the current one included; without a
+  /// Searches from the current row on (plus `skip`), including that row; without a
   /// match the cursor is left at EOF (searching backward: at BOF). The criterion is one comparison
   /// "name = value" (also <, <=, >, >=, <>), the value a number with a point, a text or a date
   /// between single quotes (a date as dd/mm/yyyy). Null matches nothing. Throws Error for any
-  /// other text and where the cursor has no row to start from; in an empty recordset it does
+  /// other text and if the cursor has no row to start from; in an empty recordset it does
   /// nothing.
   void Find(std::string_view criterion, long skip = 0, Direction direction = Direction::Forward);
 
@@ -153,14 +153,14 @@ class Recordset {
   void Update();
   void CancelUpdate();
 
-  /// Called at the end of each cursor move that came through this cursor, whoever caused it, also
-  /// one that ended at BOF or EOF. An exception travels on to the caller of the move.
+  /// Called at the end of each move of this cursor, whatever caused it, even
+  /// one that ended at BOF or EOF. An exception reaches the caller of the move.
   void onMoveComplete(std::function<void()> handler);
 
   /// A cell by position, without moving the cursor: what grids and exports read.
   const Variant& cell(std::size_t row, std::size_t field) const;
   const std::vector<FieldDefinition>& definitions() const;
-  /// Place of the first field of that name, without regard to case.
+  /// Position of the first field with that name, case-insensitive.
   std::optional<std::size_t> positionOf(std::string_view name) const;
   /// The current row, from 0; nothing at BOF, EOF and while a row is being added.
   std::optional<std::size_t> position() const;

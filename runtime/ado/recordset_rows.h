@@ -49,7 +49,7 @@ struct Criterion {
   Variant value;
 };
 
-/// Throws Error when the text is no criterion or does not suit the field.
+/// Throws Error if the text is not a criterion or does not suit the field.
 Criterion parseCriterion(std::string_view text, const std::vector<FieldDefinition>& fields);
 bool matches(const Criterion& criterion, const Variant& value);
 

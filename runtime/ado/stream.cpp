@@ -16,7 +16,7 @@ namespace korvantes::ado {
 namespace {
 
 [[noreturn]] void fail(const std::string& what, const std::string& path, int number) {
-  throw Error(number, what + " " + path + ": " + systemWords(number));
+  throw Error(systemErrorKind(number), number, what + " " + path + ": " + systemWords(number));
 }
 
 /// An open file, closed when it goes.
@@ -96,7 +96,7 @@ void Stream::SaveToFile(const std::string& path) const {
     done += static_cast<std::size_t>(put > 0 ? put : 0);
   }
   if (!file.close()) fail(kCannot, path, errno);
-  // A rename puts the new file in the place of a link, never behind it.
+  // A rename replaces a link itself, never the file it points to.
   if (!half.moveTo(path)) fail(kCannot, path, errno);
 }
 

@@ -7,13 +7,13 @@
 
 namespace korvantes::ado {
 
-/// Bytes in memory on their way to or from a file.
+/// Bytes in memory, read from a file or to be written to one.
 class Stream {
  public:
   /// Largest file that is read: 64 MiB. A larger one is an Error, not a machine out of memory.
   static constexpr std::size_t kMaxBytes = std::size_t{64} << 20U;
 
-  /// Reads a whole regular file in place of what the stream held. Throws Error with the system's
+  /// Replaces the contents by those of a whole regular file. Throws Error with the system's
   /// words.
   void LoadFromFile(const std::string& path);
   /// Writes all bytes, replacing the file; it is made readable by its owner alone. A link in its
@@ -23,7 +23,7 @@ class Stream {
   void Write(const Bytes& bytes);
   /// All bytes.
   const Bytes& Read() const { return bytes_; }
-  /// All bytes, which the stream then no longer holds: pictures are too large to be copied idly.
+  /// Moves all bytes out of the stream: pictures are too large to be copied needlessly.
   Bytes Take() { return std::exchange(bytes_, {}); }
 
  private:

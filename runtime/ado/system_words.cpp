@@ -1,5 +1,7 @@
 #include "runtime/ado/system_words.h"
 
+#include <cerrno>
+
 namespace korvantes::ado {
 
 std::string systemWords(const std::error_code& code) {
@@ -23,11 +25,27 @@ std::string systemWords(const std::error_code& code) {
   };
   for (const auto& each : known)
     if (code == each.error) return each.words;
+  if (code == std::error_code(EDQUOT, std::generic_category()))
+    return "el espacio asignado en el disco está agotado";
   return "error " + std::to_string(code.value()) + " del sistema";
 }
 
 std::string systemWords(int errorNumber) {
   return systemWords(std::error_code(errorNumber, std::generic_category()));
+}
+
+ErrorKind systemErrorKind(int errorNumber) {
+  switch (errorNumber) {
+    case ENOSPC:
+    case EDQUOT:
+      return ErrorKind::DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return ErrorKind::NotPermitted;
+    default:
+      return ErrorKind::Other;
+  }
 }
 
 }  // namespace korvantes::ado

@@ -67,7 +67,7 @@ class Letters {
   }
 
  private:
-  /// Letters are spaced out by two, so that ñ finds room behind n.
+  /// Letters are spaced out by two, so that ñ fits in after n.
   static Letter bare(char32_t c, char32_t& accent) {
     if (c < 0x80) return {foldedAscii(c).letter * U'\2', 0};
     if (c >= kFirstFoldedLetter && c - kFirstFoldedLetter < kFoldedLetters.size()) {
@@ -82,7 +82,7 @@ class Letters {
   std::size_t at_;
 };
 
-/// Compares what follows byte `from`; what stands before it is equal in both texts.
+/// Compares what follows byte `from`; what precedes it is equal in both texts.
 int compareFolded(std::string_view a, std::string_view b, std::size_t from) {
   // Accents on the letter before belong to it.
   while (from > 0 && static_cast<unsigned char>(a[--from]) >= 0x80) {

@@ -4,10 +4,10 @@
 
 namespace korvantes::ado {
 
-/// The one order of texts: lists on the screen, ORDER BY and comparisons in statements all use it.
+/// The only order of texts: lists on the screen, ORDER BY and comparisons in statements use it.
 ///
 /// As a Spanish reader expects and as the server's usual collation does: letters first without
-/// regard to case and accents, with ñ as a letter of its own after n; where that leaves two texts
+/// regard to case and accents, with ñ as a letter of its own after n; if that leaves two texts
 /// equal, accents decide (a before á); case never does. Blanks at the end do not count, so
 /// "ABC" equals "abc  ". Other characters order by their code.
 ///

@@ -10,8 +10,8 @@ namespace korvantes::ado {
 /// destructor unless commit or rollBack was called.
 class Transaction {
  public:
-  /// Throws what BeginTrans throws, also when the caller's caller has a transaction open; that one
-  /// stays as it is. Nothing is left open then, even if only the answer was lost.
+  /// Throws what BeginTrans throws, also if a transaction is open already; that one stays as it
+  /// is. Otherwise nothing is left open, even if only the answer was lost.
   explicit Transaction(Connection& connection);
   ~Transaction() {
     if (!ended_) rollBack();
@@ -23,7 +23,7 @@ class Transaction {
   /// answer was lost, the changes are stored all the same.
   void commit();
 
-  /// Undoes now what is not committed, for callers that tell the user how it went. Gives the
+  /// Undoes at once what is not committed, for callers that tell the user the outcome. Returns the
   /// failure if the changes could not be undone; the transaction is then still open.
   std::optional<Error> rollBack() noexcept;
 

@@ -19,10 +19,10 @@ std::string_view firstCharacters(std::string_view text, std::size_t count);
 /// Byte position of character `index`; the text's size when it has no such character.
 std::size_t byteOffset(std::string_view text, std::size_t index);
 
-/// The code point at byte `at`, which is moved behind it; an invalid byte stands as U+FFFD.
+/// The code point at byte `at`, which moves past it; an invalid byte counts as U+FFFD.
 char32_t nextCharacter(std::string_view text, std::size_t& at);
 
-/// The code points of a text; an invalid byte stands as U+FFFD.
+/// The code points of a text; an invalid byte counts as U+FFFD.
 std::u32string toCodePoints(std::string_view text);
 
 /// UTF-8 of one code point.

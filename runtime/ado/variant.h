@@ -96,7 +96,7 @@ class Variant {
     std::int16_t year;
     std::int8_t month, day;
   };
-  /// Which member counts is told by kind_; whole is also the truth of a Boolean and the units of a
+  /// kind_ tells which member is in use; whole is also the truth of a Boolean and the units of a
   /// Decimal.
   union Payload {
     std::int64_t whole;

@@ -161,9 +161,9 @@ TEST_F(AgentPictures, PassThroughFilesThatNobodyElseSees) {
   for (const std::string& bad : {open.file(""), open.file("no hay"), std::string("aqui")}) {
     const Environment first("XDG_RUNTIME_DIR", bad);
     const Environment second("TMPDIR", place.file(""));
-    EXPECT_THAT(PrivateFolder().file("x"), StartsWith(place.file(""))) << bad;
+    EXPECT_THAT(makePrivateFolder().file("x"), StartsWith(place.file(""))) << bad;
     const Environment third("TMPDIR", bad);
-    EXPECT_THAT(PrivateFolder().file("x"), StartsWith("/tmp/korvantes-")) << bad;
+    EXPECT_THAT(makePrivateFolder().file("x"), StartsWith("/tmp/korvantes-")) << bad;
   }
 }
 

@@ -12,7 +12,7 @@
 #include "desktop/look.h"
 #include "desktop/print_preview.h"
 #include "host/office_windows.h"
-#include "host/temporary_folder.h"
+#include "runtime/ado/temporary_folder.h"
 #include "scripts/windows/window_desktop.h"
 
 namespace korvantes::host {
@@ -55,7 +55,7 @@ class DesktopWindowTest : public testing::Test {
   }
   ~DesktopWindowTest() override { screen::Desktop::makeCurrent(nullptr); }
 
-  std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  std::string path(const char* name) const { return folder_.file(name); }
   /// Presses a button of the report screen after a search, and gives back whether the screen takes
   /// input afterwards.
   bool press(const char* button) {
@@ -78,7 +78,7 @@ class DesktopWindowTest : public testing::Test {
     return text;
   }
 
-  TemporaryFolder folder_;
+  ado::TemporaryFolder folder_;
   scripts::WindowDesktop desktop_;
   DesktopWindow window_{desktop_};
   std::vector<std::string> messages_, closed_;
@@ -100,9 +100,8 @@ TEST_F(DesktopWindowTest, ABaseThatCannotBeOpenedLeavesAWayToAnotherOne) {
   window_.useFile(path("vacia.db"));
   window_.useFile(path("no-hay.db"));
   EXPECT_THAT(messages_,
-              ElementsAre("Ya existe el fichero «" + path("muestra.db") + "»; elija otro nombre.",
-                          "La base «" + path("vacia.db") + "» no tiene las tablas del programa.",
-                          HasSubstr("no existe")));
+              ElementsAre("Ya existe la base «" + path("muestra.db") + "»; elija otro nombre.",
+                          HasSubstr("no tiene las tablas del programa."), HasSubstr("no existe")));
   EXPECT_THAT(cardText(), HasSubstr(path("muestra.db")));
   EXPECT_TRUE(entry().isEnabled());
 }

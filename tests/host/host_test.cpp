@@ -6,9 +6,8 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "host/database.h"
-#include "host/temporary_folder.h"
 #include "host/windows.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::host {
 namespace {
@@ -37,7 +36,7 @@ class HostTest : public testing::Test {
     return {status, out.str(), err.str()};
   }
 
-  std::string path(const char* name) const { return (folder_.path() / name).string(); }
+  std::string path(const char* name) const { return folder_.file(name); }
   std::string url(const char* name = "base.db") const { return "sqlite:" + path(name); }
   std::string write(const char* name, const std::string& text) const {
     std::ofstream(path(name), std::ios::binary) << text;
@@ -54,7 +53,7 @@ class HostTest : public testing::Test {
     EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1) << outcome.err;
   }
 
-  TemporaryFolder folder_;
+  ado::TemporaryFolder folder_;
 };
 
 TEST_F(HostTest, RefusesWhatItCannotDoInOneLine) {
@@ -125,18 +124,6 @@ TEST_F(HostTest, PrintsTheResultsOfStatementsUntilOneFails) {
   EXPECT_NE(printed.err.find("sentencia 6: "), std::string::npos) << printed.err;
   EXPECT_NE(printed.err.find("NoHay"), std::string::npos) << printed.err;
   EXPECT_EQ(run({"--base", url(), "sql"}, "select count(*) as n from T;").out, "n\n2\n");
-}
-
-TEST_F(HostTest, LeavesNothingOfTablesThatCouldNotBeFilled) {
-  const Database database = openDatabase(url(), OpenMode::Create);
-  const auto failing = [](ado::Connection& connection) {
-    connection.Execute("insert into Age (AGE_ID) values (1)");
-    throw ado::Error(0, "disco lleno");
-  };
-  EXPECT_THROW(createTables(database, failing), ado::Error);
-  EXPECT_FALSE(database.hasTables());
-  EXPECT_TRUE(createTables(database));
-  EXPECT_FALSE(createTables(database));
 }
 
 TEST_F(HostTest, AScriptWithAnErrorEndsWithStatus1) {

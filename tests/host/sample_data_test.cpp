@@ -1,17 +1,17 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "host/database.h"
-#include "host/temporary_folder.h"
-#include "sample/data.h"
+#include "host/create_base.h"
+#include "runtime/ado/temporary_folder.h"
 
 namespace korvantes::host {
 namespace {
 
 TEST(SampleData, HoldsTheSpecialCasesItIsMadeFor) {
-  const TemporaryFolder folder;
-  const Database database = openFile((folder.path() / "muestra.db").string(), OpenMode::Create);
-  createTables(database, sample::loadSampleData);
+  const ado::TemporaryFolder folder;
+  const std::string path = folder.file("muestra.db");
+  createBase(path, BaseContents::SampleData);
+  const Database database = openFile(path);
   const auto count = [&](const std::string& rows) {
     const auto found = database.connection->Execute("select count(*) from " + rows);
     return found.Fields(0).Value().asLong();

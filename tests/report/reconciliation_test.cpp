@@ -96,7 +96,8 @@ void expectIndependentResults(World& world, const Limits& limits) {
 TEST(SearchAgainstRawTables, SampleData) {
   World world;
   removeRows(world);
-  sample::loadSampleData(*world.connection);
+  sample::loadSharedSample(*world.connection);
+  sample::loadCompanySample(*world.connection);
   expectIndependentResults(world, {4, ado::Date{2024, 9, 30}, ado::Date{2026, 3, 31}});
 }
 

@@ -31,9 +31,10 @@ class SqliteFileTest : public testing::Test {
 
 TEST_F(SqliteFileTest, BothFilesAreForTheirOwnerOnly) {
   SqliteConnection connection(path_, kCreate);
-  EXPECT_FALSE(connection.hasTables());
+  EXPECT_FALSE(connection.hasTable("", "Lca"));
   makeTables(connection);
-  EXPECT_TRUE(connection.hasTables());
+  EXPECT_TRUE(connection.hasTable("", "Lca"));
+  EXPECT_FALSE(connection.hasTable("", "PAIS"));
   connection.Execute("insert into Vespara.dbo.PAIS values (724, 'España')");
   for (const char* name : {"empresa.db", "empresa.db.vespara", "empresa.db-wal"}) {
     struct stat state {};

@@ -1,23 +1,17 @@
 #include "tests/support/temporary_folder.h"
 
-#include <stdexcept>
-#include <stdlib.h>
-
 namespace korvantes::support {
 
-TemporaryFolder::TemporaryFolder() {
-  const std::filesystem::path memory = "/dev/shm";
+namespace {
+
+std::filesystem::path memoryIfThere() {
+  std::filesystem::path memory = "/dev/shm";
   std::error_code none;
-  const bool inMemory = std::filesystem::is_directory(memory, none);
-  std::string name =
-      ((inMemory ? memory : std::filesystem::temp_directory_path()) / "korvantes-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = name;
+  return std::filesystem::is_directory(memory, none) ? memory : std::filesystem::path();
 }
 
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() : ado::TemporaryFolder(memoryIfThere()) {}
 
 }  // namespace korvantes::support

@@ -22,7 +22,7 @@ class Cache : public testing::Test {
     return first == compiler_.compile(b).statement;
   }
 
-  Compiler compiler_{Compiler::Engine::SQLite, schema()};
+  Compiler compiler_{schema()};
 };
 
 TEST_F(Cache, TextsThatDifferInTheirValuesAreOneStatement) {
@@ -36,8 +36,6 @@ TEST_F(Cache, TextsThatDifferInTheirValuesAreOneStatement) {
                     "INSERT INTO Lca (Lca_IdAg,Lca_Obs,Lca_Base) VALUES (2,'b''c',0.50)"));
   EXPECT_TRUE(share("UPDATE Cav SET Cav_IdLca = 1where Cav_Id = 2",
                     "UPDATE Cav SET Cav_IdLca = 3where Cav_Id = 4"));
-  EXPECT_EQ(compiler_.hits(), 5U);
-  EXPECT_EQ(compiler_.misses(), 5U);
 }
 
 TEST_F(Cache, TextsThatDifferInWhatDecidesTheirFormAreTwo) {
@@ -107,12 +105,13 @@ TEST_F(Cache, ForgetsOnDemandAndDoesNotGrowForEver) {
   const auto before = compiler_.compile("SELECT Cav_Id FROM Cav").statement;
   compiler_.clear();
   EXPECT_NE(compiler_.compile("SELECT Cav_Id FROM Cav").statement, before);
+  const auto oldest = compiler_.compile("SELECT Cav_Id FROM Cav").statement;
   for (int i = 0; i < 3000; ++i) {
     const auto first = "SELECT " + std::to_string(i) + " FROM Cav";
     ASSERT_EQ(columnsOf(*compiler_.compile(first).statement), "- int");
     compiler_.compile("SELECT Cav_Id AS c" + std::to_string(i) + " FROM Cav");
   }
-  EXPECT_EQ(compiler_.hits(), 0U);
+  EXPECT_NE(compiler_.compile("SELECT Cav_Id FROM Cav").statement, oldest);
 }
 
 }  // namespace

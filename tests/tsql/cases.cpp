@@ -38,7 +38,7 @@ std::shared_ptr<Catalogue> schema() {
   std::stringstream text;
   text << opened(std::string(KORVANTES_SOURCE) + "/data/schema.sql").rdbuf();
   auto catalogue = std::make_shared<Catalogue>();
-  Compiler compiler(Compiler::Engine::SQLite, catalogue);
+  Compiler compiler(catalogue);
   for (const auto& statement : splitStatements(text.str())) {
     const auto bound = compiler.compile(statement);
     if (bound.statement->created) catalogue->add(*bound.statement->created);

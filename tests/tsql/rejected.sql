@@ -81,6 +81,8 @@ SELECT * FROM otro.Cav
 => Línea 1, columna 15: se esperaba el esquema dbo y no «otro».
 SELECT * FROM Tivas
 => Línea 1, columna 15: no existe la tabla «Tivas».
+SELECT * FROM Vespara.dbo.Cav
+=> La base de datos compartida no tiene la tabla «Cav».
 SELECT Cav_Xx FROM Cav
 => Línea 1, columna 8: no existe la columna «Cav_Xx».
 SELECT Cav.Cav_Id FROM Cav c

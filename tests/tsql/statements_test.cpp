@@ -7,7 +7,7 @@ namespace korvantes::tsql {
 namespace {
 
 TEST(Statements, WhatIsInTheSubsetCompilesToItsColumns) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   for (const auto& accepted : casesOf("accepted.sql")) {
     SCOPED_TRACE(accepted.statement);
     ASSERT_EQ(refusalOf(compiler, accepted.statement), "");
@@ -17,7 +17,7 @@ TEST(Statements, WhatIsInTheSubsetCompilesToItsColumns) {
 
 TEST(Statements, TheExamplesOfTheManualCompile) {
   std::ifstream page(std::string(KORVANTES_SOURCE) + "/docs/sql-subset.md");
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   bool inside = false;
   int statements = 0;
   for (std::string line; std::getline(page, line);) {
@@ -32,7 +32,7 @@ TEST(Statements, TheExamplesOfTheManualCompile) {
 }
 
 TEST(Statements, WhatIsOutsideTheSubsetIsRefusedWithPlaceAndWord) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   for (const auto& rejected : casesOf("rejected.sql")) {
     SCOPED_TRACE(rejected.statement);
     EXPECT_EQ(refusalOf(compiler, rejected.statement), rejected.expected);
@@ -42,7 +42,7 @@ TEST(Statements, WhatIsOutsideTheSubsetIsRefusedWithPlaceAndWord) {
 }
 
 TEST(Statements, PlacesCountLinesAndCharacters) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   EXPECT_EQ(refusalOf(compiler, "SELECT 'ñandú',\n  'él', Xx\nFROM Cav"),
             "Línea 2, columna 9: no existe la columna «Xx».");
   EXPECT_EQ(refusalOf(compiler, "-- eñe\n/* \n */ SELECT * FROM Nada"),
@@ -52,7 +52,7 @@ TEST(Statements, PlacesCountLinesAndCharacters) {
 }
 
 TEST(Statements, TextsTooDeepOrTooLongAreRefusedAndNotRun) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   const auto repeated = [](std::string_view text, int times) {
     std::string result;
     for (int i = 0; i < times; ++i) result += text;
@@ -80,7 +80,7 @@ TEST(Statements, TextsTooDeepOrTooLongAreRefusedAndNotRun) {
 /// Every prefix of a statement, and the statement with any one character replaced, either compiles
 /// or is refused.
 TEST(Statements, DamagedTextsNeverDoWorseThanARefusal) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   const auto cases = casesOf("accepted.sql");
   for (std::size_t c = 0; c < cases.size(); c += 6) {
     const auto& statement = cases[c].statement;
@@ -94,7 +94,7 @@ TEST(Statements, DamagedTextsNeverDoWorseThanARefusal) {
 }
 
 TEST(Statements, DescribeWhatTheEngineHasToKnow) {
-  Compiler compiler(Compiler::Engine::SQLite, schema());
+  Compiler compiler(schema());
   const auto one = compiler.compile("select * from AGE where AGE_ID= 7");
   EXPECT_EQ(one.statement->kind, StatementKind::Select);
   EXPECT_EQ(one.statement->table, "Age");

@@ -45,7 +45,7 @@ class Values : public testing::Test {
   support::TemporaryFolder folder_;
   sqlite::SqliteConnection connection_{folder_.file("base"), {.create = true}};
   std::shared_ptr<Catalogue> catalogue_ = std::make_shared<Catalogue>();
-  Compiler compiler_{Compiler::Engine::SQLite, catalogue_};
+  Compiler compiler_{catalogue_};
 };
 
 TEST_F(Values, ExpressionsHaveTheServersTypesAndValues) {
