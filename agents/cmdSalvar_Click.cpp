@@ -95,18 +95,27 @@ bool frmAgentes::confirmaEntrada() {
                    kTitulo);
     return false;
   }
-  std::string sCambios;
-  for (const CodigoSinEntrada& cada : codigosSinEntrada)
-    if (cada.lista->ListIndex() == 0)
-      sCambios += std::string(kSalto) + cada.nombre + " " + cada.codigo + " pasará a ser «" +
-                  cada.lista->Text() + "»";
-  if (!sCambios.empty())
-    screen::MsgBox(
-        "El agente tiene códigos que no están en las listas. Si confirma la entrada:" + sCambios,
-        screen::style::Exclamation, kTitulo);
+  avisaCodigosSinEntrada();
   return screen::MsgBox(
              std::string("Confirma la entrada de datos") + kSalto + txtFields(kNombre).Text(),
              screen::style::Information | screen::style::YesNo) == screen::Answer::Yes;
+}
+
+void frmAgentes::avisaCodigosSinEntrada() const {
+  std::string sCambios;
+  bool bDesconocidos = false;
+  for (const CodigoSinEntrada& cada : codigosSinEntrada) {
+    if (cada.lista->ListIndex() != 0) continue;
+    bDesconocidos |= !cada.codigo.empty();
+    sCambios += std::string(kSalto) + cada.nombre + " " +
+                (cada.codigo.empty() ? "(sin valor)" : cada.codigo) + " pasará a ser «" +
+                cada.lista->Text() + "»";
+  }
+  if (sCambios.empty()) return;
+  screen::MsgBox(std::string(bDesconocidos ? "El agente tiene códigos que no están en las listas."
+                                           : "El agente tiene códigos sin valor.") +
+                     " Si confirma la entrada:" + sCambios,
+                 screen::style::Exclamation, kTitulo);
 }
 
 void frmAgentes::agregaCampos(plindor::BaseDatos& oDb) const {

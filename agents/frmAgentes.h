@@ -37,7 +37,7 @@ class frmAgentes : public screen::Form {
   struct CodigoSinEntrada {
     const screen::ComboBox* lista;
     const char* nombre;
-    std::string codigo;
+    std::string codigo;  ///< empty for Null
   };
 
   void layOut();
@@ -78,6 +78,8 @@ class frmAgentes : public screen::Form {
 
   // Steps of a save. The first asks; the others throw.
   bool confirmaEntrada();
+  /// Says which codes the save would replace with the first entry of their list.
+  void avisaCodigosSinEntrada() const;
   void agregaCampos(plindor::BaseDatos& oDb) const;
   std::int32_t anadeAgente(plindor::BaseDatos& oDb);
   void actualizaAgente(plindor::BaseDatos& oDb, std::int32_t nId);

@@ -2,6 +2,7 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
+#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
 
 namespace korvantes {
@@ -23,7 +24,7 @@ constexpr BoundField kFields[] = {
 };
 
 /// Compared with a longer piece of the entry than is saved: the third character is the blank
-/// behind the two digits.
+/// after the two digits.
 constexpr std::size_t kCaracteresRegimen = 3;
 
 }  // namespace
@@ -66,8 +67,8 @@ void frmAgentes::seleccionaEntrada(screen::ComboBox& lista, const char* nombre,
   const std::optional<std::int32_t> numero = codigoGuardado(codigo);
   const std::optional<int> entrada = numero ? entradaDe(lista, nCaracteres, *numero) : std::nullopt;
   lista.ListIndex = entrada.value_or(0);
-  const std::string guardado = screen::CStr(codigo);
-  if (!entrada && !guardado.empty()) codigosSinEntrada.push_back({&lista, nombre, guardado});
+  if (!entrada)
+    codigosSinEntrada.push_back({&lista, nombre, std::string(ado::trimmed(screen::CStr(codigo)))});
 }
 
 }  // namespace korvantes

@@ -62,9 +62,6 @@ class frmLiquidAgentes : public screen::Form {
   void retiraResultado();
   report::Filtros filtros() const;
   report::Forma forma() const;
-  void muestraTotal();
-  /// The recordset of the shape's rows; closed when the shape by invoice has none.
-  ado::Recordset buscaFilas();
   /// "Primera y 31/12/2026": the limits of the date on screen.
   std::string textoRango() const;
 
