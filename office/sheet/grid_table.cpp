@@ -1,6 +1,10 @@
 #include "office/sheet/grid_table.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "runtime/ado/error.h"
+#include "runtime/ado/text_order.h"
 
 namespace korvantes::office {
 
@@ -26,7 +30,28 @@ SheetColumn::Kind kindOf(ado::FieldType type) {
   return SheetColumn::Kind::Text;
 }
 
-SheetColumn described(const ado::FieldDefinition& field, const screen::DataGrid::Column& shown) {
+/// "Lca" of "Lca_Base": the table that a field is of. Empty for one worked out for each row.
+std::string_view tableOf(const ado::FieldDefinition& field) {
+  const std::string_view name = field.name;
+  const std::size_t end = name.find('_');
+  return end == name.npos ? std::string_view() : name.substr(0, end);
+}
+
+/// Whether a field of one table may stand in several rows, because the rows also tell apart keys of
+/// another: the gross amount of an invoice in the rows of each settlement that it is in.
+bool repeats(const ado::FieldDefinition& field,
+             const std::vector<ado::FieldDefinition>& definitions) {
+  const std::string_view table = tableOf(field);
+  return !table.empty() &&
+         std::any_of(definitions.begin(), definitions.end(), [&](const auto& other) {
+           const std::string_view name = other.name, owner = tableOf(other);
+           return !owner.empty() && ado::sameName(name.substr(owner.size()), "_Id") &&
+                  !ado::sameName(owner, table);
+         });
+}
+
+SheetColumn described(const ado::FieldDefinition& field, const screen::DataGrid::Column& shown,
+                      bool repeated) {
   SheetColumn column{shown.Caption,      shown.Width, shown.TextAlignment,
                      kindOf(field.type), {},          false};
   if (column.kind == SheetColumn::Kind::Date) column.format = dateFormat(shown.NumberFormat);
@@ -35,7 +60,7 @@ SheetColumn described(const ado::FieldDefinition& field, const screen::DataGrid:
   // Whole numbers are codes; exact numbers that nobody formatted are as often rates as amounts.
   const bool amount = field.type == ado::FieldType::Currency ||
                       (field.type != ado::FieldType::Integer && column.format.places > 0);
-  column.totalled = amount && !isPercentage(shown.Caption);
+  column.totalled = amount && !repeated && !isPercentage(shown.Caption);
   return column;
 }
 
@@ -50,7 +75,8 @@ GridTable::GridTable(const ado::Recordset& rows, const screen::DataGrid& grid)
     shown.Caption = definitions[field].name;
     if (suits) shown = grid.Columns(field);
     if (!shown.Visible || shown.Width <= 0) continue;
-    columns_.push_back(described(definitions[field], shown));
+    columns_.push_back(
+        described(definitions[field], shown, repeats(definitions[field], definitions)));
     fields_.push_back(field);
   }
   if (columns_.empty())

@@ -28,6 +28,10 @@ lxw_col_t columnNumber(std::size_t column) {
   return static_cast<lxw_col_t>(column);
 }
 
+std::string withoutTrailingBlanks(const std::string& text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
 /// Writes one table into a new workbook, from top to bottom: rows leave the memory at once.
 class TableWriter {
  public:
@@ -210,7 +214,8 @@ void TableWriter::writeCell(lxw_row_t row, std::size_t column, const ado::Varian
                                static_cast<double>(value.date().serial() + kDaysTo1970), format);
       return;
     case Kind::Text:
-      return writeText(row, column, value.text(), format);
+      // Fields of fixed length come padded with blanks, which no search in a sheet expects.
+      return writeText(row, column, withoutTrailingBlanks(value.text()), format);
   }
 }
 

@@ -20,8 +20,8 @@ ado::Recordset result(std::vector<ado::FieldDefinition> fields, std::vector<Vari
 
 ado::Recordset settlements() {
   std::vector<Variant> cells{
-      7,      "Peña", Date{2026, 6, 30}, Decimal::money(1234567891), 0.1, Decimal(350, 2),
-      "A/12", true,   ado::Bytes(3)};
+      7,         "Peña", Date{2026, 6, 30}, Decimal::money(1234567891), 0.1, Decimal(350, 2),
+      "A/12   ", true,   ado::Bytes(3)};
   cells.insert(cells.end(),
                {8, "Núñez", Date{1899, 1, 2}, Decimal::money(-1000), 0.2, {}, {}, false, {}});
   cells.insert(cells.end(), {9, {}, {}, {}, {}, Decimal(0, 2), "A/13", {}, {}});
@@ -73,6 +73,19 @@ A4 | A3:H6 | landscape | 9 | None | 0 | $1:$3
  |  |  |  |  |  |  | 
 "Total" |  | =SUBTOTAL(109,C4:C6) -> 123456.6891 [#,##0.00" "] | =SUBTOTAL(109,D4:D6) -> 0.3 [0.0#" %"] |  |  |  | 
 )");
+}
+
+TEST(GridToExcel, AddsNoAmountOfATableThatMayBeInSeveralRows) {
+  SheetWorld world;
+  const ado::Recordset rows = result({{"Fav_Id", FieldType::Integer},
+                                      {"Lca_Id", FieldType::Integer},
+                                      {"Fav_Bruto", FieldType::Double},
+                                      {"Comision", FieldType::Double}},
+                                     {1, 5, 100.0, 10.0, 1, 6, 100.0, 20.0});
+  world.grid.DataSource(rows);
+  for (const std::size_t amount : {2U, 3U}) world.grid.Columns(amount).NumberFormat = "#,##0.00";
+  world.exportGrid(rows);
+  EXPECT_THAT(world.read(), HasSubstr("\"Total\" |  |  | =SUBTOTAL(109,D4:D5) -> 30 [#,##0.00]\n"));
 }
 
 TEST(GridToExcel, TakesTheFieldsWhereTheGridIsBoundToSomethingElse) {

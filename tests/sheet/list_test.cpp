@@ -85,7 +85,7 @@ TEST(ListToExcel, KeepsHostileTextsAsTexts) {
       {"-x", ""},
       {"@SUM(A1)", ""},
       {"<a&b> \"'", ""},
-      {"  blancos  ", ""},
+      {"  blancos  ", "  blancos"},
       {"dos\nlíneas\ty tabulador", ""},
       {"cp\x80malo", "cp\uFFFDmalo"},
       {"ñ\uFFFF", "ñ\uFFFD"},
