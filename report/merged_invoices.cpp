@@ -65,28 +65,6 @@ ado::Variant recortado(const ado::Variant& valor) {
   return sinBlancos.size() == texto.size() ? valor : ado::Variant(std::string(sinBlancos));
 }
 
-/// The commission of a row, exact; nothing for Null.
-std::optional<ado::Decimal> importeDe(const ado::Variant& valor) {
-  constexpr int kEscala = ado::Decimal::kMoneyScale;
-  switch (valor.kind()) {
-    case ado::VariantKind::Null:
-      return std::nullopt;
-    case ado::VariantKind::Decimal:
-      return valor.decimal().rescaled(kEscala);
-    default:
-      return ado::decimalFromDouble(valor.asDouble(), kEscala);
-  }
-}
-
-/// Exact; Null only when both are.
-void suma(std::optional<ado::Decimal>& total, const std::optional<ado::Decimal>& importe) {
-  if (!importe) return;
-  std::int64_t unidades = total ? total->units() : 0;
-  if (__builtin_add_overflow(unidades, importe->units(), &unidades))
-    throw ado::ConversionError("La suma de las comisiones de una factura es demasiado grande");
-  total = ado::Decimal::money(unidades);
-}
-
 /// Joins the rows of one invoice, agent and settlement date.
 ///
 /// Rows of one key have equal values in every column of the statement's order. They are neighbours
@@ -117,7 +95,8 @@ class Fusion {
     } else if (rs_.position() != fila.posicion) {
       rs_.moveTo(fila.posicion);
     }
-    suma(fila.comision, importeDe(valor(comision_)));
+    if (const ado::Variant& comision = valor(comision_); !comision.isNull())
+      fila.comision = fila.comision.value_or(ado::Decimal()) + comision.asDecimal();
     if (fila.comision) {
       rs_.Collect("Comision", fila.comision->toDouble());
       calculaPorcentaje();

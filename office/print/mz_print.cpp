@@ -101,8 +101,11 @@ std::shared_ptr<const Report> MZPrint::gather(const std::vector<Argument>& argum
   const screen::Desktop& desktop = screen::Desktop::current();
   const ReportTexts texts(desktop.regional());
   const ado::Date today = desktop.now().date;
-  if (number == kSettlementList)
-    return std::make_shared<SettlementListReport>(SettlementList(rows), limits_, texts, today);
+  if (number == kSettlementList) {
+    SettlementList list(rows);
+    if (rows.RecordCount() > 0) list.readStored(query(list.storedStatement()));
+    return std::make_shared<SettlementListReport>(std::move(list), limits_, texts, today);
+  }
 
   if (rows.RecordCount() == 0)
     return std::make_shared<SettlementReport>(std::nullopt, ado::Recordset(), texts, today);

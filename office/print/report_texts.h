@@ -30,6 +30,9 @@ class ReportTexts {
   screen::Regional regional_;
 };
 
+/// Says that the commissions of a settlement's notes are no longer its stored base.
+QString changedSinceSettled(const QString& commissions);
+
 /// "1 albarán", "2000 albaranes".
 QString counted(std::size_t count, const char* one, const char* many);
 

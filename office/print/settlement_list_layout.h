@@ -19,7 +19,8 @@ constexpr Column kSums[] = {{"", 41, Align::Left},       {"Base", 28, Align::Rig
 
 constexpr double kTitle = 9, kLimits = 5.5, kCaptions = 5.5, kContinuation = 5.5;
 constexpr double kAgent = 7, kSettlement = 5.6, kRow = 4.7;
-constexpr double kSettlementTotal = 6.2, kAgentTotal = 7, kGrandTotal = 8;
+constexpr double kSettlementTotal = 6.2, kDayTotal = 6.4, kAgentTotal = 7, kGrandTotal = 8;
+constexpr double kRemark = 4.4;
 /// Invoices that a settlement has below its heading before a page may end.
 constexpr std::size_t kOpeningRows = 2;
 constexpr double kGap = 3, kAgentName = 125;

@@ -217,9 +217,7 @@ void SettlementReport::writeTotals(PageFlow& flow) const {
   if (!changed) return;
   flow.line(kRemark, [&](Canvas& canvas, double y) {
     canvas.text(QRectF(0, y, kPageWidth, kRemark), Face::Note,
-                "Las comisiones de los albaranes suman hoy " + texts_.amount(commission_.value()) +
-                    ", no la base guardada: algún albarán ha cambiado después de liquidarse.",
-                Align::Right, Ink::Grey);
+                changedSinceSettled(texts_.amount(commission_.value())), Align::Right, Ink::Grey);
   });
 }
 

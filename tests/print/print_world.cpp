@@ -34,10 +34,10 @@ void PrintWorld::note(int note, int invoice, const std::string& amount,
       ", " + amount + ", " + percent + ")");
 }
 
-int PrintWorld::settle(const std::vector<int>& notes, const std::string& amounts) {
+int PrintWorld::settle(const std::vector<int>& notes, const std::string& values, int agent) {
   sql("INSERT INTO Lca (Lca_IdAg, Lca_Fecha, Lca_HFecha, Lca_Cob, Lca_NCob, Lca_Base, Lca_PorIva, "
-      "Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total, Lca_Obs) VALUES (7, " +
-      amounts + ")");
+      "Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total, Lca_Obs) VALUES (" +
+      std::to_string(agent) + ", " + values + ")");
   const int number = sql("SELECT MAX(Lca_Id) FROM Lca").Fields(0).Value().asLong();
   for (const int each : notes)
     sql("INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (" + std::to_string(number) + ", " +

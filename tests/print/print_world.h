@@ -20,8 +20,9 @@ class PrintWorld : public support::ScreenWorld {
   /// Delivery note A/`note` on invoice F/`invoice` of 01/10/2026, with one line.
   void note(int note, int invoice, const std::string& amount, const std::string& percent);
   void invoice(int invoice);
-  /// A settlement over notes; gives its number. Further columns come as "name=value".
-  int settle(const std::vector<int>& notes, const std::string& amounts);
+  /// A settlement over notes; gives its number.
+  /// @param values from Lca_Fecha to Lca_Obs, with commas in between
+  int settle(const std::vector<int>& notes, const std::string& values, int agent = 7);
 
   /// The report component as a form uses it, without and with the database.
   std::unique_ptr<Object> component();
