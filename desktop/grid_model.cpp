@@ -36,7 +36,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(index.row());
   const auto column = static_cast<std::size_t>(index.column());
-  // A recordset replaced in the running event may be smaller than the toolkit was told.
+  // A recordset replaced in the current event may be smaller than the toolkit knows.
   if (!index.isValid() || row >= grid_.RowCount() || column >= grid_.ColumnCount()) return {};
   if (role == Qt::DisplayRole) return toQt(grid_.cellText(row, column, screen::currentRegional()));
   if (role == Qt::TextAlignmentRole)

@@ -5,7 +5,7 @@
 
 namespace korvantes::report {
 
-/// Makes rows of delivery notes into rows of invoices, in a recordset of 19 fields built by hand.
+/// Turns rows of delivery notes into rows of invoices, in a recordset of 19 fields built by hand.
 ///
 /// Rows of one invoice, agent and settlement date within a run of rows that tie in the statement's
 /// order become one. It keeps the settlement of the first and has the sum of the commissions, added
@@ -13,9 +13,9 @@ namespace korvantes::report {
 /// without lines have a Null commission, which adds nothing; an invoice of such notes alone has
 /// neither commission nor percentage.
 ///
-/// @param rsFilas the rows of the statement by invoice, from its current row on; is left at EOF
-/// @param bPorFecha invoice in front of customer, as in the statement; else customer first
-/// @return a recordset that stands on its last row; a closed one when there are no rows
+/// @param rsFilas the rows of the statement by invoice, starting at its current row; left at EOF
+/// @param bPorFecha invoice before customer, as in the statement; else customer first
+/// @return a recordset on its last row; a closed one if there are no rows
 ado::Recordset facturasDe(ado::Recordset rsFilas, bool bPorFecha,
                           const plindor::UtilFormulario& oUtil);
 

@@ -10,7 +10,7 @@ namespace korvantes::office {
 
 namespace {
 
-/// The runtime's number for an argument of no use.
+/// The runtime's number for an invalid argument.
 constexpr long kInvalidArgument = 5;
 
 SheetColumn::Kind kindOf(ado::FieldType type) {
@@ -37,8 +37,8 @@ std::string_view tableOf(const ado::FieldDefinition& field) {
   return end == name.npos ? std::string_view() : name.substr(0, end);
 }
 
-/// Whether a field of one table may stand in several rows, because the rows also tell apart keys of
-/// another: the gross amount of an invoice in the rows of each settlement that it is in.
+/// Whether a field of one table may repeat in several rows, because the rows also differ by the key
+/// of another: the gross amount of an invoice in the rows of each settlement that it is in.
 bool repeats(const ado::FieldDefinition& field,
              const std::vector<ado::FieldDefinition>& definitions) {
   const std::string_view table = tableOf(field);
@@ -57,7 +57,7 @@ SheetColumn described(const ado::FieldDefinition& field, const screen::DataGrid:
   if (column.kind == SheetColumn::Kind::Date) column.format = dateFormat(shown.NumberFormat);
   if (column.kind != SheetColumn::Kind::Number) return column;
   column.format = numberFormat(shown.NumberFormat);
-  // Whole numbers are codes; exact numbers that nobody formatted are as often rates as amounts.
+  // Whole numbers are codes; exact numbers without a format may be rates as well as amounts.
   const bool amount = field.type == ado::FieldType::Currency ||
                       (field.type != ado::FieldType::Integer && column.format.places > 0);
   column.totalled = amount && !repeated && !isPercentage(shown.Caption);

@@ -90,7 +90,7 @@ TEST(SearchScreen, ReportAndSpreadsheetGetTheLastResultUnderTheDatesOnScreen) {
                 ElementsAre("sTitulo = Informe de Liquidación de comisiones a Agentes",
                             "GridToExcel | 19 fields | dbgLiqui (enabled, pointer 0)", "released"));
 
-    // Ticked behind the search, which left the filter text.
+    // Ticked after the search, which left the filter text.
     screen.choose(Forma::Albaran);
     EXPECT_THAT(after("cmdEmision"), Contains("ShowReport | 12 |  | 0 (disabled, pointer 13)"));
     screen.choose(Forma::Resumen);

@@ -116,7 +116,7 @@ TEST(SpreadsheetFile, ReplacesAnOldOneAndKeepsItsPermissionsAndLink) {
   EXPECT_THAT(world.read(), HasSubstr("\"Imp.Comision\""));
 }
 
-TEST(SpreadsheetFile, IsNotThereWhenTheUserThinksBetterOfIt) {
+TEST(SpreadsheetFile, IsNotThereWhenTheUserCancels) {
   SheetWorld world;
   world.target.reset();
   EXPECT_EQ(support::failureOf([&] { world.exportList(); }), "");

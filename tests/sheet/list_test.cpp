@@ -74,7 +74,7 @@ TEST(ListToExcel, WritesTitleAndHeadingOfAnEmptyList) {
   EXPECT_TRUE(read.ends_with("\"Imp.Comision\"\n")) << read;
 }
 
-/// What stands in the cell, where it is not the text itself.
+/// Texts, and what the cell holds where it is not the same.
 TEST(ListToExcel, KeepsHostileTextsAsTexts) {
   std::string longText;
   for (int i = 0; i < 20000; ++i) longText += "€😀";

@@ -37,10 +37,10 @@ struct SheetWorld : SheetOutlet {
   screen::DataGrid grid{form, "dbgLiqui"};
   support::TemporaryFolder folder;
   Spreadsheet sheets{std::shared_ptr<SheetOutlet>(std::shared_ptr<void>(), this)};  // not owned
-  /// Where the next file goes; nothing: the user thinks better of it.
+  /// Where the next file goes; empty if the user cancels.
   std::optional<std::filesystem::path> target = folder.file("hoja.xlsx");
   std::string suggested;                   ///< name that the object asked for last
-  std::optional<std::size_t> rowsWritten;  ///< rows it told of last
+  std::optional<std::size_t> rowsWritten;  ///< rows it reported last
 
   std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) override {
     suggested = suggestedName;
