@@ -1,11 +1,11 @@
 #include "tests/print/print_world.h"
 
-#include <cstdio>
 #include <sstream>
 #include <stdexcept>
 
 #include "office/print/folder_report_outlet.h"
 #include "office/print/mz_print.h"
+#include "tests/support/program_output.h"
 
 namespace korvantes::office {
 
@@ -66,14 +66,8 @@ std::string PrintWorld::settlementText(int number) {
 
 std::string PrintWorld::text() const {
   if (delivered.empty()) throw std::logic_error("no report was delivered");
-  const std::string order =
-      "pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() + "' -";
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(order.c_str(), "r"), pclose);
-  std::string read;
-  char piece[4096];
-  while (const std::size_t size = fread(piece, 1, sizeof piece, pipe.get()))
-    read.append(piece, size);
-  return read;
+  return support::outputOf("pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() +
+                           "' -");
 }
 
 std::string lineWith(const std::string& text, const std::string& part) {
