@@ -21,8 +21,8 @@ constexpr int kHeadingMargin = 3;
 constexpr int kSortMark = 10;
 constexpr int kCellMargin = 3;
 
-/// Digits and what stands between them: an amount, a rate, a day, a code. Cut short it would read as
-/// another one.
+/// Digits and what stands between them: an amount, a rate, a day, a code. Cut short it would read
+/// as another one.
 bool isNumber(const QString& text) {
   static const QString kBetween = " .,-/%€";
   bool digits = false;

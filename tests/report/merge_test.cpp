@@ -1,4 +1,8 @@
+#include <algorithm>
 #include <gmock/gmock.h>
+#include <map>
+#include <random>
+#include <tuple>
 
 #include "report/merged_invoices.h"
 #include "runtime/screen/conversions.h"
@@ -101,6 +105,36 @@ TEST(MergedInvoices, NotesOfOneInvoiceAgentAndDateBecomeOneRow) {
     EXPECT_EQ(rows.position(), rows.RecordCount() - 1) << each.name;
   }
   EXPECT_FALSE(merged({}).isOpen());
+}
+
+TEST(MergedInvoices, EachInvoiceAgentAndDateHasOneRowWhateverTheOrderOfTies) {
+  std::mt19937 dice(2026);
+  for (int round = 0; round < 300; ++round) {
+    // Invoices 2n and 2n + 1 share a number; both agents have one name.
+    std::vector<Note> notes(dice() % 30 + 1, {0, 0, kNull});
+    std::map<std::tuple<bool, int, int>, long long> expected;
+    for (Note& note : notes) {
+      const long long amount = static_cast<long long>(dice() % 2'000'000) - 500'000;
+      const bool june = dice() % 2 == 0;
+      note.invoice = static_cast<int>(dice() % 6);
+      note.number = note.invoice / 2;
+      note.agent = 7 + static_cast<int>(dice() % 2);
+      note.date = june ? kJune : kMay;
+      note.commission = cents(amount);
+      expected[{june, note.invoice, note.agent}] += amount;
+    }
+    std::sort(notes.begin(), notes.end(), [](const Note& a, const Note& b) {
+      return std::pair(a.date.date(), a.number.whole()) <
+             std::pair(b.date.date(), b.number.whole());
+    });
+    const ado::Recordset rows = merged(notes);
+    ASSERT_EQ(rows.RecordCount(), expected.size());
+    for (std::size_t row = 0; row < rows.RecordCount(); ++row) {
+      const auto key = std::tuple(rows.cell(row, 3).date() == kJune, rows.cell(row, 0).asLong(),
+                                  rows.cell(row, 10).asLong());
+      EXPECT_EQ(rows.cell(row, 8).asDouble(), static_cast<double>(expected.at(key)) / 100);
+    }
+  }
 }
 
 TEST(MergedInvoices, TextsAreTrimmedAndCutToTheirFieldByCharacters) {

@@ -19,7 +19,7 @@ void settleTwoNotes(World& world) {
   world.settle({1, 2});
 }
 
-TEST(SearchScreen, AFailureOfTheDatabaseIsToldAndTheNextSearchWorks) {
+TEST(SearchScreen, AFailureOfTheDatabaseIsReportedAndTheNextSearchWorks) {
   World world;
   settleTwoNotes(world);
   show(world, [&](SearchScreen& screen) {
