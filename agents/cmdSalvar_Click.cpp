@@ -24,7 +24,7 @@ constexpr const char* kNombreGuardado = "Select AGE_NOM from AGE where AGE_ID=";
 constexpr long kFallo = -99999;
 constexpr int kDecimales = 2, kDecimalesComision = 3;
 
-/// What goes to the column of a list: the characters in front of its entry.
+/// The value saved for a list: the leading characters of its text.
 std::string codigoVisible(const screen::ComboBox& lista, std::size_t nCifras, const char* nombre) {
   if (lista.Text().empty())
     throw std::runtime_error(
@@ -33,7 +33,7 @@ std::string codigoVisible(const screen::ComboBox& lista, std::size_t nCifras, co
   return std::string(ado::firstCharacters(lista.Text(), nCifras));
 }
 
-/// The same, of a column that takes digits alone.
+/// The same for a column that takes digits only.
 std::string codigoNumerico(const screen::ComboBox& lista, std::size_t nCifras, const char* nombre) {
   std::string codigo = codigoVisible(lista, nCifras, nombre);
   if (!codigoInicial(lista.Text(), nCifras))
@@ -80,7 +80,8 @@ void frmAgentes::cmdSalvar_Click() {
     std::string texto = fallo.what();
     if (transaccion) texto += mdoKORVANTES::deshaz(*transaccion);
     if (nNuevo != 0 && (bGuardado || estaGuardado(conexion, nNuevo))) {
-      // From now on it is an agent like any other: the next click changes it, and adds no second.
+      // From now on it is an agent like any other: the next click updates it instead of adding
+      // another.
       txtFields(kCodigo).Text = std::to_string(nNuevo);
       bGuardado = true;
     }
@@ -95,18 +96,27 @@ bool frmAgentes::confirmaEntrada() {
                    kTitulo);
     return false;
   }
-  std::string sCambios;
-  for (const CodigoSinEntrada& cada : codigosSinEntrada)
-    if (cada.lista->ListIndex() == 0)
-      sCambios += std::string(kSalto) + cada.nombre + " " + cada.codigo + " pasará a ser «" +
-                  cada.lista->Text() + "»";
-  if (!sCambios.empty())
-    screen::MsgBox(
-        "El agente tiene códigos que no están en las listas. Si confirma la entrada:" + sCambios,
-        screen::style::Exclamation, kTitulo);
+  avisaCodigosSinEntrada();
   return screen::MsgBox(
              std::string("Confirma la entrada de datos") + kSalto + txtFields(kNombre).Text(),
              screen::style::Information | screen::style::YesNo) == screen::Answer::Yes;
+}
+
+void frmAgentes::avisaCodigosSinEntrada() const {
+  std::string sCambios;
+  bool bDesconocidos = false;
+  for (const CodigoSinEntrada& cada : codigosSinEntrada) {
+    if (cada.lista->ListIndex() != 0) continue;
+    bDesconocidos |= !cada.codigo.empty();
+    sCambios += std::string(kSalto) + cada.nombre + " " +
+                (cada.codigo.empty() ? "(sin valor)" : cada.codigo) + " pasará a ser «" +
+                cada.lista->Text() + "»";
+  }
+  if (sCambios.empty()) return;
+  screen::MsgBox(std::string(bDesconocidos ? "El agente tiene códigos que no están en las listas."
+                                           : "El agente tiene códigos sin valor.") +
+                     " Si confirma la entrada:" + sCambios,
+                 screen::style::Exclamation, kTitulo);
 }
 
 void frmAgentes::agregaCampos(plindor::BaseDatos& oDb) const {

@@ -2,7 +2,7 @@
 
 namespace korvantes::agents {
 
-/// What the indexes of txtFields stand for.
+/// Indexes of txtFields.
 enum Field {
   kCodigo = 0,
   kNombre = 1,

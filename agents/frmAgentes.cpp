@@ -53,8 +53,8 @@ void frmAgentes::Form_KeyUp(int& keyCode, int /*shift*/) {
   teclaSoltada(keyCode);
 }
 
-// A key of the grid comes here twice, by way of the form and then of the grid: what was done is
-// used up, or Enter would move two fields on and F1 open its list again.
+// A key pressed in the grid arrives twice, through the form and then through the grid. Once handled
+// it is used up, or Enter would move on two fields and F1 would open its list again.
 void frmAgentes::teclaSoltada(int& keyCode) {
   switch (keyCode) {
     case screen::key::Enter:

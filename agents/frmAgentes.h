@@ -1,5 +1,5 @@
-// agents: the master screen of the commission agents. Procedures stand in files named after them;
-// positions, captions and colours stand in frmAgentes_layout.cpp.
+// agents: the master screen of the commission agents. Procedures are in files named after them,
+// positions, captions and colours in frmAgentes_layout.cpp.
 #pragma once
 
 #include <cstdint>
@@ -23,7 +23,7 @@ class frmAgentes : public screen::Form {
  public:
   frmAgentes();
 
-  /// AGE_ID of the current row; 0 while the list is empty, and until the first move of the user.
+  /// AGE_ID of the current row; 0 while the list is empty, and until the user first moves.
   std::int32_t nIdAgente = 0;
 
   void Form_Load() override;
@@ -33,11 +33,11 @@ class frmAgentes : public screen::Form {
  private:
   enum Estado { AgenteNuevo = 1, Consulta = 4 };
 
-  /// A stored code for which a list has no entry, so that its first one shows.
+  /// A stored code without an entry in its list, which shows its first entry instead.
   struct CodigoSinEntrada {
     const screen::ComboBox* lista;
     const char* nombre;
-    std::string codigo;
+    std::string codigo;  ///< empty for Null
   };
 
   void layOut();
@@ -60,33 +60,35 @@ class frmAgentes : public screen::Form {
   void msCargaProvincias();
   void msCargaPaises();
   void msCargaRegimenes();
-  /// The three of them. A list that cannot be read stays empty, and the user is told.
+  /// All three. A list that cannot be read stays empty, and a message says so.
   void cargaListas();
-  /// Reads the list of agents and shows its first row. On an error the former list stays.
+  /// Reads the list of agents and shows its first row. On an error the previous list stays.
   void msCargaAgentes();
-  /// Moves to the agent, or to the last row; away from a row that is gone.
+  /// Moves to the agent or to the last row; to the last row too if the agent is gone.
   void msPosicionAgente(std::int32_t nId, bool bUltimo = false);
   /// Moves to the agent when it is listed; otherwise shows the current row again.
   bool msExisteAgente(const ado::Variant& nId);
   void msBuscarPorNombre();
   void msEstadoPantalla(int nModo);
 
-  /// Shows a stored value whole, whatever the filter of its field.
+  /// Shows a stored value in full, bypassing the filter of its field.
   void muestra(screen::TextBox& box, const std::string& guardado);
   void seleccionaEntrada(screen::ComboBox& lista, const char* nombre, std::size_t nCaracteres,
                          const ado::Variant& codigo);
 
   // Steps of a save. The first asks; the others throw.
   bool confirmaEntrada();
+  /// Says which codes the save would replace with the first entry of their list.
+  void avisaCodigosSinEntrada() const;
   void agregaCampos(plindor::BaseDatos& oDb) const;
   std::int32_t anadeAgente(plindor::BaseDatos& oDb);
   void actualizaAgente(plindor::BaseDatos& oDb, std::int32_t nId);
-  /// Whether the agent just added is in the table, after a failure that does not tell.
+  /// Whether the agent just added is in the table, after a failure that leaves it open.
   bool estaGuardado(ado::Connection& conexion, std::int32_t nId) const;
 
   std::unique_ptr<plindor::UtilFormulario> oUtil;
   ado::Recordset rsOper;
-  /// Belongs to AlCambiarTexto, which gets it for all fields alike.
+  /// State of AlCambiarTexto, shared by all fields.
   ado::Variant nEstadoCambio;
   bool bSinFiltro = false;
   std::vector<CodigoSinEntrada> codigosSinEntrada;

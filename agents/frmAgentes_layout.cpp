@@ -1,4 +1,4 @@
-// Where everything stands on the agents' screen, and what it looks like. Twips.
+// Positions and appearance of the agents' screen. Twips.
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 
@@ -29,7 +29,7 @@ struct LabelRow {
 
 constexpr int kLabelHeight = 195;
 
-// Each stands above its field. They follow the tab stops in tab order.
+// Each is above its field. They come after the tab stops in tab order.
 constexpr LabelRow kLabels[] = {
     {5, "Código", 240, 240, 1215},
     {3, "Nombre ", 1560, 240, 7215},

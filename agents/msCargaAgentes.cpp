@@ -22,7 +22,7 @@ constexpr std::size_t kPrimeraOculta = 6, kUltimaOculta = 11;
 }  // namespace
 
 void frmAgentes::msCargaAgentes() {
-  // Only when the new list is there does the former one go.
+  // The previous list is dropped only once the new one has been read.
   rsOper = mdoKORVANTES::Conexion().Execute(kAgentes);
   rsOper.onMoveComplete([this] { rsOper_MoveComplete(); });
   dboOper.DataSource(rsOper);

@@ -2,6 +2,7 @@
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
 #include "component/mdoKORVANTES.h"
+#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
 
 namespace korvantes {
@@ -23,14 +24,14 @@ constexpr BoundField kFields[] = {
 };
 
 /// Compared with a longer piece of the entry than is saved: the third character is the blank
-/// behind the two digits.
+/// after the two digits.
 constexpr std::size_t kCaracteresRegimen = 3;
 
 }  // namespace
 
 void frmAgentes::rsOper_MoveComplete() {
   codigosSinEntrada.clear();
-  // Off the rows, as a Find without a match leaves the cursor, there is nothing to show either.
+  // Without a current row, as after a Find without a match, there is nothing to show either.
   if (rsOper.RecordCount() == 0 || !rsOper.Bookmark()) {
     nIdAgente = 0;
     Frame2.Enabled = false;
@@ -46,8 +47,8 @@ void frmAgentes::rsOper_MoveComplete() {
   seleccionaEntrada(cboRegFiscal, "Régimen fiscal", kCaracteresRegimen, rsOper.Collect("AGE_REG"));
 }
 
-// The filter of the field with the focus takes for typing what is stored: "SW1A 2AA" would be saved
-// as "12".
+// The filter of the field with the focus treats a stored value as typed: "SW1A 2AA" would become
+// "12", and be saved.
 void frmAgentes::muestra(screen::TextBox& box, const std::string& guardado) {
   box.Text = guardado;
   if (box.Text() == guardado) return;
@@ -59,15 +60,15 @@ void frmAgentes::muestra(screen::TextBox& box, const std::string& guardado) {
 void frmAgentes::seleccionaEntrada(screen::ComboBox& lista, const char* nombre,
                                    std::size_t nCaracteres, const ado::Variant& codigo) {
   if (lista.ListCount() == 0) {
-    // What was typed for the agent before must not be saved for this one.
+    // What was typed for the previous agent must not be saved for this one.
     lista.Text = "";
     return;
   }
   const std::optional<std::int32_t> numero = codigoGuardado(codigo);
   const std::optional<int> entrada = numero ? entradaDe(lista, nCaracteres, *numero) : std::nullopt;
   lista.ListIndex = entrada.value_or(0);
-  const std::string guardado = screen::CStr(codigo);
-  if (!entrada && !guardado.empty()) codigosSinEntrada.push_back({&lista, nombre, guardado});
+  if (!entrada)
+    codigosSinEntrada.push_back({&lista, nombre, std::string(ado::trimmed(screen::CStr(codigo)))});
 }
 
 }  // namespace korvantes

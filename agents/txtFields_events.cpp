@@ -77,7 +77,7 @@ void frmAgentes::txtFields_LostFocus(int index) {
       break;
     case kComision:
       oUtil->AlPerderFoco(box, "0.000");
-      // What is no number at all is told by the save.
+      // A text that is not a number at all is reported by the save.
       if (screen::parseNumber(box.Text()).value_or(0) < kComisionLimite) return;
       Tag = "3";
       screen::MsgBox("Error, el % de comisión deberá ser inferior a 100",

@@ -90,7 +90,7 @@ class GridFace : public ControlFace {
  private:
   using Widths = std::vector<std::pair<int, bool>>;
 
-  /// The designed columns; widths set by the user stay until the design changes.
+  /// Applies the designed columns; widths set by the user are kept until the design changes.
   void showColumns() {
     Widths designed;
     for (std::size_t i = 0; i < grid_.ColumnCount(); ++i)

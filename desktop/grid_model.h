@@ -6,8 +6,8 @@
 
 namespace korvantes::desktop {
 
-/// The rows of a grid's recordset, read when they are painted. Qt only knows the state at
-/// the last readAgain.
+/// The rows of a grid's recordset, read when they are painted. Qt only knows the state at the
+/// last readAgain.
 class GridModel : public QAbstractTableModel {
  public:
   explicit GridModel(const screen::DataGrid& grid);

@@ -116,6 +116,14 @@ FittedText fit(const QString& text, const QFont& font, int width) {
   return {smaller, lines.join(u'\n'), true};
 }
 
+QFont fontForWhole(const QString& text, const QFont& font, int width) {
+  QFont smaller = font;
+  if (shrink(text, smaller, width)) return smaller;
+  while (smaller.pixelSize() > 1 && widestLine(QFontMetrics(smaller), text) > width)
+    smaller.setPixelSize(smaller.pixelSize() - 1);
+  return smaller;
+}
+
 FittedText fitTwoLines(const QString& text, const QFont& font, int width) {
   const QFontMetrics metrics(font);
   if (widestLine(metrics, text) <= width) return {font, text, false};

@@ -37,7 +37,9 @@ struct FittedText {
   bool cut = false;
 };
 FittedText fit(const QString& text, const QFont& font, int width);
-/// The same with a second line, used if one line is too long.
+/// The font in which a text fits a width whole, however small it has to be.
+QFont fontForWhole(const QString& text, const QFont& font, int width);
+/// The same as fit with a second line, used if one line is too long.
 FittedText fitTwoLines(const QString& text, const QFont& font, int width);
 
 /// The whole text as tooltip of a widget that shows it cut; no tooltip otherwise.

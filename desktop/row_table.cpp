@@ -21,6 +21,18 @@ constexpr int kHeadingMargin = 3;
 constexpr int kSortMark = 10;
 constexpr int kCellMargin = 3;
 
+/// Digits and what stands between them: an amount, a rate, a day, a code. Cut short it would read
+/// as another one.
+bool isNumber(const QString& text) {
+  static const QString kBetween = " .,-/%€";
+  bool digits = false;
+  for (const QChar letter : text) {
+    if (!letter.isDigit() && !kBetween.contains(letter)) return false;
+    digits |= letter.isDigit();
+  }
+  return digits;
+}
+
 class RowDelegate : public QStyledItemDelegate {
  public:
   explicit RowDelegate(RowTable& table) : QStyledItemDelegate(&table), table_(table) {}
@@ -39,8 +51,11 @@ class RowDelegate : public QStyledItemDelegate {
     option->state.setFlag(QStyle::State_HasFocus, false);
     option->state.setFlag(QStyle::State_Active, true);
     option->textElideMode = Qt::ElideRight;
-    if (table_.reserved(index) > 0)
-      option->font = fit(option->text, option->font, option->rect.width() - 2 * kCellMargin).font;
+    const int room = option->rect.width() - 2 * kCellMargin;
+    if (isNumber(option->text))
+      option->font = fontForWhole(option->text, option->font, room);
+    else if (table_.reserved(index) > 0)
+      option->font = fit(option->text, option->font, room).font;
     if (option->widget != nullptr && !option->widget->hasFocus()) {
       option->palette.setColor(QPalette::Highlight, QColor(0xD4, 0xE0, 0xEC));
       option->palette.setColor(QPalette::HighlightedText, QColor(0x14, 0x14, 0x14));

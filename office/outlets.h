@@ -1,5 +1,5 @@
-// office: the outside objects that print reports and write spreadsheets. They know outside/ alone;
-// where a finished document goes is up to whoever registers them, through the outlets below.
+// office: the outside objects that print reports and write spreadsheets. Where a finished document
+// goes is up to whoever registers them, through the outlets below.
 #pragma once
 
 #include <cstddef>
@@ -16,17 +16,17 @@ namespace korvantes::office {
 class SheetOutlet {
  public:
   virtual ~SheetOutlet() = default;
-  /// The file to write, which replaces one that is there. Nothing when the user thinks better of
-  /// it: then nothing is written and nothing said.
+  /// The file to write, which replaces an existing one. Empty if the user cancels: then nothing is
+  /// written and nothing reported.
   /// @param suggestedName a file name with its extension, without a folder
   virtual std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) = 0;
-  /// The file stands complete under its name.
+  /// Called once the file is complete under its name.
   /// @param rows rows of data, without title, heading and totals
   virtual void written(const std::filesystem::path& file, std::size_t rows) = 0;
 };
 
-/// A report with all its data, laid out anew for each device that it meets. It asks no database any
-/// more, so that it can be painted as often as a preview wants.
+/// A report with all its data, laid out anew for each device. It no longer needs the database, so a
+/// preview can paint it as often as it likes.
 class Report {
  public:
   virtual ~Report() = default;
@@ -35,13 +35,13 @@ class Report {
   /// "Liquidación 13": for a window and the document's own title, and as a file name without folder
   /// and extension.
   virtual std::string title() const = 0;
-  /// Sets A4 and the margins on the device. A device keeps them only when told before painting.
+  /// Sets A4 and the margins on the device; this has no effect once painting has begun.
   virtual void setUp(QPagedPaintDevice& device) const = 0;
-  /// Paints all pages, from the first to the last, on a device that was set up.
+  /// Paints all pages on a device that was set up.
   virtual void paint(QPagedPaintDevice& device) const = 0;
 };
 
-/// Where reports go. Returns when the user has done with the report.
+/// Where reports go. Returns when the user is done with the report.
 class ReportOutlet {
  public:
   virtual ~ReportOutlet() = default;

@@ -6,15 +6,15 @@
 
 namespace korvantes::office {
 
-/// A folder for the documents of one run of the program, without a display. Documents of an earlier
-/// run are written over; those of this run never are.
+/// A folder for the documents of one run of the program without a display. Documents of earlier
+/// runs are overwritten, those of this run never are.
 class OutputFolder {
  public:
-  /// The folder is made when the first document comes.
+  /// The folder is created with the first document.
   explicit OutputFolder(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
   /// "NAME.EXT" in the folder; the second time "NAME-2.EXT", and so on. Throws ado::Error when
-  /// there is no such folder and none can be made.
+  /// the folder does not exist and cannot be created.
   std::filesystem::path fileFor(const std::string& name);
 
  private:

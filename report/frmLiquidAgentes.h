@@ -1,7 +1,7 @@
 // report: the screen on which stored settlements are searched, opened, printed and exported. Each
-// procedure stands in a file of its own, named after it; the texts of its statements stand in
-// search_statements.cpp, the columns of the result in result_columns.cpp, positions, captions and
-// colours in frmLiquidAgentes_layout.cpp.
+// procedure has a file named after it; the texts of the statements are in search_statements.cpp,
+// the columns of the result in result_columns.cpp, positions, captions and colours in
+// frmLiquidAgentes_layout.cpp.
 #pragma once
 
 #include <cstdint>
@@ -21,9 +21,9 @@ class frmLiquidAgentes : public screen::Form {
  public:
   frmLiquidAgentes();
 
-  /// Searches with the filters on screen and shows the result. A date that is none is told and
-  /// gets the focus, and nothing else changes. Errors of the connection travel on; the screen then
-  /// shows no result.
+  /// Searches with the filters on screen and shows the result. An invalid date is
+  /// reported and gets the focus, and nothing else changes. Errors of the connection are passed
+  /// on; the screen then shows no result.
   void msBuscarLiquidaciones();
 
   void Form_Load() override;
@@ -62,9 +62,6 @@ class frmLiquidAgentes : public screen::Form {
   void retiraResultado();
   report::Filtros filtros() const;
   report::Forma forma() const;
-  void muestraTotal();
-  /// The recordset of the shape's rows; closed when the shape by invoice has none.
-  ado::Recordset buscaFilas();
   /// "Primera y 31/12/2026": the limits of the date on screen.
   std::string textoRango() const;
 
@@ -75,7 +72,7 @@ class frmLiquidAgentes : public screen::Form {
   std::string sCriterio;  ///< what the search leaves for the report
   ado::Recordset rs;      ///< the result that dbgLiqui shows
 
-  // From back to front. Label1(1) lies behind the shape.
+  // From back to front. The shape hides Label1(1).
   screen::ControlArray<screen::Label> Label1;
   screen::Shape Shape1{*this, "Shape1"};
   screen::Label lblTotales{*this, "lblTotales"};

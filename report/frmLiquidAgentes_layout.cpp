@@ -1,4 +1,4 @@
-// Where everything stands on the screen of the settlement search, and what it looks like. Twips.
+// Positions and appearance of the settlement search screen. Twips.
 #include "report/frmLiquidAgentes.h"
 
 namespace korvantes {
@@ -27,7 +27,7 @@ constexpr TextRow kTexts[] = {
     {1, {1080, 360, 6735, 285}, 4, 50, Alignment::Left, true},
     {2, {7920, 360, 1455, 285}, 1, 10, Alignment::Center, true},
     {3, {9600, 360, 1455, 285}, 2, 10, Alignment::Center, true},
-    // Nothing shows these three.
+    // These three are never shown.
     {4, {3600, 120, 855, 285}, 15, 4, Alignment::Center, false},
     {5, {4680, 120, 1455, 285}, 16, 10, Alignment::Center, false},
     {6, {6360, 120, 1455, 285}, 17, 10, Alignment::Center, false},
@@ -51,7 +51,7 @@ constexpr LabelRow kLabels[] = {
     {1, "Numero Factura", {840, 360, 1455, 255}, 3, true},
 };
 
-/// Caption, place and tab order, which labels, buttons, checks and options have alike.
+/// Caption, position and tab order, which labels, buttons, check boxes and options share.
 template <class T>
 void setUp(T& control, const char* caption, const Box& box, int tabIndex) {
   control.Caption = caption;

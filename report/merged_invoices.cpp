@@ -1,9 +1,16 @@
 #include "report/merged_invoices.h"
 
+#include <array>
+#include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "runtime/ado/characters.h"
+#include "runtime/ado/decimal.h"
+#include "runtime/ado/error.h"
 
 namespace korvantes::report {
 
@@ -11,8 +18,8 @@ namespace {
 
 using ado::FieldType;
 
-/// Where the value of a field comes from: the field of the same name, that text without blanks
-/// around, or from elsewhere or nowhere.
+/// Where the value of a field comes from: the field of the same name, that text trimmed, or
+/// neither.
 enum class Valor { Copiado, Recortado, Aparte };
 
 struct Campo {
@@ -50,31 +57,6 @@ constexpr Campo kUltimos[] = {
 
 constexpr int kCentimos = 2;
 
-/// A field of the new recordset and where it comes from, by position: names are looked up once,
-/// not at every row.
-struct Copia {
-  std::size_t desde, hasta;
-  bool recortado;
-};
-
-/// Appends the fields and opens the recordset.
-std::vector<Copia> prepara(ado::Recordset& rs, const ado::Recordset& rsFilas, bool bPorFecha) {
-  std::vector<Copia> copias;
-  const auto agrega = [&](const Campo& campo) {
-    if (campo.valor != Valor::Aparte) {
-      // Past the end, Fields() says that there is no such field.
-      const std::size_t desde = rsFilas.positionOf(campo.nombre).value_or(rsFilas.Fields().Count());
-      copias.push_back({desde, rs.Fields().Count(), campo.valor == Valor::Recortado});
-    }
-    rs.Fields().Append(campo.nombre, campo.tipo, campo.tamano);
-  };
-  for (const Campo& campo : kPrimeros) agrega(campo);
-  for (const Campo& campo : bPorFecha ? kPorFecha : kPorCliente) agrega(campo);
-  for (const Campo& campo : kUltimos) agrega(campo);
-  rs.Open();
-  return copias;
-}
-
 ado::Variant recortado(const ado::Variant& valor) {
   if (valor.isNull()) return valor;
   const std::string& texto = valor.text();
@@ -83,57 +65,133 @@ ado::Variant recortado(const ado::Variant& valor) {
   return sinBlancos.size() == texto.size() ? valor : ado::Variant(std::string(sinBlancos));
 }
 
-void rellena(ado::Recordset& rs, const ado::Recordset& rsFilas, const std::vector<Copia>& copias) {
-  for (const Copia& copia : copias) {
-    const ado::Variant& valor = rsFilas.Fields(copia.desde).Value();
-    rs.Fields(copia.hasta).Value(copia.recortado ? recortado(valor) : valor);
+/// Joins the rows of one invoice, agent and settlement date.
+///
+/// Rows of one key have equal values in every column of the statement's order. They are neighbours
+/// but for rows of other keys with which they tie: two agents of one name come mixed with one
+/// another. Whether two texts tie is up to the engine's collation, so a run of ties is taken to end
+/// where a date or the number of the invoice changes.
+class Fusion {
+ public:
+  Fusion(const ado::Recordset& rsFilas, bool bPorFecha, const plindor::UtilFormulario& oUtil)
+      : rsFilas_(rsFilas), bPorFecha_(bPorFecha), oUtil_(oUtil) {}
+
+  /// Takes the current row of the statement.
+  void agrega() {
+    if (!rs_.isOpen()) prepara();
+    const Empate empate{valor(fechaLiquidacion_), valor(fechaFactura_), valor(numeroFactura_)};
+    if (empate != empate_) {
+      empate_ = empate;
+      filas_.clear();
+    }
+
+    const Clave clave{valor(factura_).asLong(), valor(agente_).asLong()};
+    const auto [lugar, esNueva] = filas_.try_emplace(clave);
+    Fila& fila = lugar->second;
+    if (esNueva) {
+      fila.posicion = rs_.RecordCount();
+      rs_.AddNew();
+      rellena();
+    } else if (rs_.position() != fila.posicion) {
+      rs_.moveTo(fila.posicion);
+    }
+    if (const ado::Variant& comision = valor(comision_); !comision.isNull())
+      fila.comision = fila.comision.value_or(ado::Decimal()) + comision.asDecimal();
+    if (fila.comision) {
+      rs_.Collect("Comision", fila.comision->toDouble());
+      calculaPorcentaje();
+    }
+    rs_.Update();
+  }
+
+  /// The invoices, on the last of them; closed without rows.
+  ado::Recordset facturas() {
+    if (rs_.isOpen()) rs_.MoveLast();
+    return rs_;
+  }
+
+ private:
+  /// What a run of ties has in common, besides texts: both dates and the number of the invoice.
+  using Empate = std::array<ado::Variant, 3>;
+  using Clave =
+      std::pair<std::int32_t, std::int32_t>;  ///< invoice and agent; the date is the run's
+  struct Fila {
+    std::size_t posicion = 0;
+    std::optional<ado::Decimal> comision;
+  };
+  /// A field of the new recordset and where it comes from, by position: names are looked up once,
+  /// not at every row.
+  struct Copia {
+    std::size_t desde, hasta;
+    bool recortado;
+  };
+
+  /// Past the end, Fields() says that there is no such field.
+  std::size_t posicionDe(const char* nombre) const {
+    return rsFilas_.positionOf(nombre).value_or(rsFilas_.Fields().Count());
+  }
+  const ado::Variant& valor(std::size_t posicion) const {
+    return rsFilas_.Fields(posicion).Value();
+  }
+
+  void prepara();
+  void rellena();
+  void calculaPorcentaje();
+
+  const ado::Recordset& rsFilas_;
+  bool bPorFecha_;
+  const plindor::UtilFormulario& oUtil_;
+  ado::Recordset rs_;
+  std::vector<Copia> copias_;
+  std::size_t factura_ = 0, agente_ = 0, fechaLiquidacion_ = 0, fechaFactura_ = 0,
+              numeroFactura_ = 0, bruto_ = 0, comision_ = 0;
+  Empate empate_;
+  std::map<Clave, Fila> filas_;  ///< of the run
+};
+
+/// Appends the fields and opens the recordset.
+void Fusion::prepara() {
+  const auto agrega = [&](const Campo& campo) {
+    if (campo.valor != Valor::Aparte)
+      copias_.push_back(
+          {posicionDe(campo.nombre), rs_.Fields().Count(), campo.valor == Valor::Recortado});
+    rs_.Fields().Append(campo.nombre, campo.tipo, campo.tamano);
+  };
+  for (const Campo& campo : kPrimeros) agrega(campo);
+  for (const Campo& campo : bPorFecha_ ? kPorFecha : kPorCliente) agrega(campo);
+  for (const Campo& campo : kUltimos) agrega(campo);
+  factura_ = posicionDe("Fav_Id");
+  agente_ = posicionDe("Age_Id");
+  fechaLiquidacion_ = posicionDe("Lca_Fecha");
+  fechaFactura_ = posicionDe("Fav_Fecha");
+  numeroFactura_ = posicionDe("Fav_Numero");
+  bruto_ = posicionDe("Fav_Bruto");
+  comision_ = posicionDe("Comision");
+  rs_.Open();
+}
+
+void Fusion::rellena() {
+  for (const Copia& copia : copias_) {
+    const ado::Variant& deFila = valor(copia.desde);
+    rs_.Fields(copia.hasta).Value(copia.recortado ? recortado(deFila) : deFila);
   }
 }
 
-/// Agent and settlement date tell the settlements of one row from those of another: the amounts of
-/// two agents, or of two dates, never come together.
-bool mismaLiquidacion(const ado::Recordset& rs, const ado::Recordset& rsFilas) {
-  return rs.Collect("Age_Id").asLong() == rsFilas.Collect("Age_Id").asLong() &&
-         rs.Collect("Lca_Fecha") == rsFilas.Collect("Lca_Fecha");
-}
-
-/// Null only when both are.
-ado::Variant sumaDe(const ado::Variant& a, const ado::Variant& b,
-                    const plindor::UtilFormulario& oUtil) {
-  if (a.isNull()) return b;
-  if (b.isNull()) return a;
-  // Cents do not add up exactly in a double.
-  return oUtil.Redondea(a.asDouble() + b.asDouble(), kCentimos);
-}
-
-void calculaPorcentaje(ado::Recordset& rs, const ado::Variant& bruto,
-                       const plindor::UtilFormulario& oUtil) {
-  const ado::Variant& comision = rs.Collect("Comision");
-  if (bruto.isNull() || bruto.asDouble() == 0 || comision.isNull()) return;
-  rs.Collect("Porcentaje", oUtil.Redondea(comision.asDouble() * 100 / bruto.asDouble(), kCentimos));
+void Fusion::calculaPorcentaje() {
+  const ado::Variant& bruto = valor(bruto_);
+  if (bruto.isNull() || bruto.asDouble() == 0) return;
+  rs_.Collect(
+      "Porcentaje",
+      oUtil_.Redondea(rs_.Collect("Comision").asDouble() * 100 / bruto.asDouble(), kCentimos));
 }
 
 }  // namespace
 
 ado::Recordset facturasDe(ado::Recordset rsFilas, bool bPorFecha,
                           const plindor::UtilFormulario& oUtil) {
-  ado::Recordset rs;
-  std::vector<Copia> copias;
-  for (; !rsFilas.isEOF() && !rsFilas.isBOF(); rsFilas.MoveNext()) {
-    if (!rs.isOpen()) copias = prepara(rs, rsFilas, bPorFecha);
-
-    // Looks from the row last written on, at one row at most.
-    rs.Find("Fav_Id = " + std::to_string(rsFilas.Collect("Fav_Id").asLong()));
-    if (rs.isEOF() || rs.isBOF() || !mismaLiquidacion(rs, rsFilas)) {
-      rs.AddNew();
-      rellena(rs, rsFilas, copias);
-    } else {
-      rs.Collect("Comision", sumaDe(rs.Collect("Comision"), rsFilas.Collect("Comision"), oUtil));
-    }
-    calculaPorcentaje(rs, rsFilas.Collect("Fav_Bruto"), oUtil);
-    rs.Update();
-  }
-  return rs;
+  Fusion fusion(rsFilas, bPorFecha, oUtil);
+  for (; !rsFilas.isEOF() && !rsFilas.isBOF(); rsFilas.MoveNext()) fusion.agrega();
+  return fusion.facturas();
 }
 
 }  // namespace korvantes::report

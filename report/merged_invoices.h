@@ -5,16 +5,17 @@
 
 namespace korvantes::report {
 
-/// Makes rows of delivery notes into rows of invoices, in a recordset of 19 fields built by hand.
+/// Turns rows of delivery notes into rows of invoices, in a recordset of 19 fields built by hand.
 ///
-/// Neighbouring rows of one invoice, agent and settlement date become one, which keeps the
-/// settlement of the first and has the sum of the commissions, in currency units rounded to cents,
-/// and its percentage of the invoice's gross base. Notes without lines have a Null commission,
-/// which adds nothing; an invoice of such notes alone has neither commission nor percentage.
+/// Rows of one invoice, agent and settlement date within a run of rows that tie in the statement's
+/// order become one. It keeps the settlement of the first and has the sum of the commissions, added
+/// up in exact decimals and converted once, and its percentage of the invoice's gross base. Notes
+/// without lines have a Null commission, which adds nothing; an invoice of such notes alone has
+/// neither commission nor percentage.
 ///
-/// @param rsFilas the rows of the statement by invoice, from its current row on; is left at EOF
-/// @param bPorFecha invoice in front of customer, as in the statement; else customer first
-/// @return a recordset that stands on its last row; a closed one when there are no rows
+/// @param rsFilas the rows of the statement by invoice, starting at its current row; left at EOF
+/// @param bPorFecha invoice before customer, as in the statement; else customer first
+/// @return a recordset on its last row; a closed one if there are no rows
 ado::Recordset facturasDe(ado::Recordset rsFilas, bool bPorFecha,
                           const plindor::UtilFormulario& oUtil);
 

@@ -55,7 +55,7 @@ report::Forma frmLiquidAgentes::forma() const {
 
 void frmLiquidAgentes::msBuscarLiquidaciones() {
   if (!compruebaFechas()) return;
-  // What fails from here on leaves no result, rather than the rows of other filters.
+  // From here on a failure leaves no result, rather than the rows of other filters.
   retiraResultado();
 
   const std::string sFiltro = report::filtroDe(filtros());

@@ -1,4 +1,4 @@
-// What the grid shows of each result. Widths in twips.
+// The columns that the grid shows of each result. Widths in twips.
 #include "report/result_columns.h"
 
 namespace korvantes::report {

@@ -14,8 +14,8 @@ constexpr int kInformeLiquidaciones = 12;
 
 constexpr int kPunteroNormal = 0, kPunteroOcupado = 13;
 
-/// The form takes no input and the pointer shows that it works, as long as one exists: a failure
-/// of the report leaves neither behind.
+/// Disables the form and shows the busy pointer for its lifetime, so that a failure of the report
+/// undoes both.
 class Ocupada {
  public:
   explicit Ocupada(screen::Form& form) : form_(form) {

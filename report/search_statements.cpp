@@ -7,7 +7,7 @@ namespace korvantes::report {
 
 namespace {
 
-// The filters. A fragment's blanks belong to it.
+// The filters. The blanks of a fragment are part of it.
 constexpr const char* kDonde = "WHERE ";
 constexpr const char* kY = " AND ";
 constexpr const char* kAgente = "Lca_IdAg = ";
@@ -27,7 +27,7 @@ constexpr const char* kResumen =
     "SELECT Lca_Id,Age_Nom,Lca_Fecha,Lca_Base,Lca_Iva,Lca_Retencion,Lca_Total "
     "FROM Lca "
     "INNER JOIN Age ON Lca_IdAg = Age_Id ";
-/// Without a blank in front: behind an agent's number the server reads two words all the same.
+/// Without a leading blank: after an agent's number the server still reads two words.
 constexpr const char* kOrdenaResumen = "ORDER BY ";
 
 // Both detail shapes.

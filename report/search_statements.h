@@ -6,7 +6,7 @@
 
 namespace korvantes::report {
 
-/// What a row of the result stands for.
+/// What a row of the result represents.
 enum class Forma {
   Resumen,  ///< a settlement
   Factura,  ///< an invoice of a settlement
@@ -20,8 +20,8 @@ struct Filtros {
   std::string sSerie, sDesdeNumero, sHastaNumero;
 };
 
-/// The filter text: empty, or from "WHERE " on. The dates go in as they are, for the server to
-/// read.
+/// The filter text: empty, or starting with "WHERE ". Dates are inserted unchanged, for the server
+/// to read.
 std::string filtroDe(const Filtros& filtros);
 
 /// The sum of the bases, as SumaLiquidacion; Null without settlements.
@@ -29,11 +29,11 @@ std::string sentenciaTotal(const std::string& sFiltro);
 std::string sentenciaResumen(const std::string& sFiltro, const std::string& sOrdenacion);
 /// Rows of the shape by delivery note, and of the shape by invoice before its notes are merged.
 /// @param forma Factura or Albaran
-/// @param bPorFecha order by agent and date, with the invoice in front of the customer; else by
+/// @param bPorFecha order by agent and date, with the invoice before the customer; else by
 ///   agent, date and customer, with the customer first
 std::string sentenciaDetalle(Forma forma, bool bPorFecha, const std::string& sFiltro);
 
-/// No row, for a result that has none.
+/// Gives no rows, for an empty result.
 inline constexpr const char* kSentenciaVacia = "SELECT * FROM Lca WHERE Lca_Id=-1";
 /// Order of the summary.
 inline constexpr const char* kOrdenResumen = "Lca_IdAg,Lca_Fecha";

@@ -8,8 +8,8 @@
 
 namespace korvantes::office {
 
-/// An amount in cents, from an exact decimal, a whole number, or a double that stands for one;
-/// nothing for Null. Throws ado::ConversionError for other kinds.
+/// An amount in cents, from an exact decimal, a whole number, or the double nearest to one; nothing
+/// for Null. Throws ado::ConversionError for other kinds.
 std::optional<ado::Decimal> inCents(const ado::Variant& value);
 
 /// Exact sum of amounts in cents.

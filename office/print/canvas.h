@@ -16,7 +16,7 @@ enum class Face { Title, Heading, Text, Strong, Note, NoteStrong };
 enum class Ink { Black, Grey, Rule, Band };
 enum class Align { Left, Right };
 
-/// A column of a table: widths are in millimetres of a page's width of kPageWidth.
+/// A column of a table. Its width is in millimetres of a page kPageWidth wide.
 struct Column {
   const char* caption;
   double width;
@@ -33,8 +33,8 @@ class Sheet {
 
   double height() const { return height_; }  ///< millimetres
   const Typeface& face(Face face) const { return faces_[static_cast<std::size_t>(face)]; }
-  /// Units of the device to a millimetre of the layout. Paper of another width makes columns wider
-  /// or narrower, never the type.
+  /// Device units per millimetre of the layout. On paper of another width the columns change, never
+  /// the type size.
   double across() const { return across_; }
   double down() const { return down_; }
 
@@ -43,20 +43,20 @@ class Sheet {
   std::vector<Typeface> faces_;
 };
 
-/// Paints on a page, in millimetres from the upper left corner of the printable area.
+/// Paints on a page, in millimetres from the top left corner of the printable area.
 class Canvas {
  public:
   Canvas(const Sheet& sheet, QPainter& painter) : sheet_(&sheet), painter_(&painter) {}
 
-  /// One line of text in the middle of the box's height; a text too wide ends in an ellipsis.
+  /// One line of text, centred vertically; a text that is too wide ends in an ellipsis.
   void text(const QRectF& box, Face face, const QString& text, Align align = Align::Left,
             Ink ink = Ink::Black);
-  /// One at the right end that is never cut, but made smaller where it must be.
+  /// One line at the right edge, made smaller where needed and never cut.
   void number(const QRectF& box, Face face, const QString& digits, Ink ink = Ink::Black);
   /// A line of a table; texts are elided, numbers (aligned to the right) are not.
   void cells(double y, double height, Face face, std::span<const Column> columns,
              std::span<const QString> texts, Ink ink = Ink::Black);
-  /// The same with each column's caption in small type in front of its number.
+  /// The same with each column's caption in small type before its number.
   void labelledCells(double y, double height, Face face, std::span<const Column> columns,
                      std::span<const QString> texts);
   void captions(double y, double height, std::span<const Column> columns);

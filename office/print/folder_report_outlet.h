@@ -15,15 +15,15 @@ class OffscreenApplication;
 /// Writes each report as a PDF file into a folder, for hosts without a display.
 class FolderReportOutlet : public ReportOutlet {
  public:
-  /// What is told of a file that stands complete: report number, rows, path.
+  /// Called for each complete file: report number, rows, path.
   using Written = std::function<void(int number, std::size_t rows, const std::filesystem::path&)>;
 
   FolderReportOutlet(std::shared_ptr<OutputFolder> folder, Written written);
   ~FolderReportOutlet() override;
 
-  /// Throws ado::Error when the file cannot be written; nothing is told then. Where there is no
-  /// application object of Qt yet, the outlet makes one with the first report, and keeps it as long
-  /// as it lives itself.
+  /// Throws ado::Error when the file cannot be written, without calling back. If there is no
+  /// application object of Qt yet, the outlet creates one with the first report and keeps it for
+  /// its own lifetime.
   void deliver(std::shared_ptr<const Report> report) override;
 
  private:

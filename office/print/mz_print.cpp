@@ -92,7 +92,7 @@ std::shared_ptr<const Report> MZPrint::gather(const std::vector<Argument>& argum
   ado::Recordset rows;
   if (arguments.size() == kLongForm) {
     requireLongForm(arguments);
-    // A second cursor: the caller's stays on its row.
+    // A second cursor, so that the caller's stays on its row.
     rows = argument<ado::Recordset>(arguments[kRows], "el conjunto de filas").Clone();
   } else {
     rows = query(statementText(arguments[kStatement]));
@@ -101,8 +101,11 @@ std::shared_ptr<const Report> MZPrint::gather(const std::vector<Argument>& argum
   const screen::Desktop& desktop = screen::Desktop::current();
   const ReportTexts texts(desktop.regional());
   const ado::Date today = desktop.now().date;
-  if (number == kSettlementList)
-    return std::make_shared<SettlementListReport>(SettlementList(rows), limits_, texts, today);
+  if (number == kSettlementList) {
+    SettlementList list(rows);
+    if (rows.RecordCount() > 0) list.readStored(query(list.storedStatement()));
+    return std::make_shared<SettlementListReport>(std::move(list), limits_, texts, today);
+  }
 
   if (rows.RecordCount() == 0)
     return std::make_shared<SettlementReport>(std::nullopt, ado::Recordset(), texts, today);
@@ -116,7 +119,7 @@ std::shared_ptr<const Report> MZPrint::gather(const std::vector<Argument>& argum
 }
 
 ado::Recordset MZPrint::query(const std::string& statement) const {
-  // A search by invoice leaves only its filter behind where a statement is expected.
+  // A search by invoice leaves its filter text where a statement is expected.
   if (!isSelect(statement))
     throw ado::Error(kBadArgument,
                      "No se puede emitir el informe con las opciones marcadas ahora: vuelva a "

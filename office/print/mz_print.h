@@ -1,5 +1,5 @@
-// office/print: the report component. A report is gathered whole from the database or from a
-// recordset, and then paged by Qt on whatever device it meets: a PDF, a preview, a printer.
+// office/print: the report component. A report first gathers all its data, from the database or
+// from a recordset, and is then paged by Qt for any device: a PDF, a preview, a printer.
 #pragma once
 
 #include <memory>
@@ -25,15 +25,14 @@ class MZPrint : public Object {
 
   /// Throws ado::Error for a property it does not have or a value of another kind.
   void set(std::string_view property, const Argument& value) override;
-  /// Returns Null when the outlet has done with the report. Throws ado::Error in Spanish for a
-  /// method it does not have, arguments that do not fit, an unknown report number, a statement
-  /// without MyBd, and a text that is no SELECT; errors of the database and of the outlet travel
-  /// on.
+  /// Returns Null when the outlet is done with the report. Throws ado::Error in Spanish for an
+  /// unknown method or report number, arguments that do not fit, a missing MyBd, and a text that is
+  /// not a SELECT; errors of the database and of the outlet are passed on.
   ado::Variant call(std::string_view method, const std::vector<Argument>& arguments) override;
 
  private:
   std::shared_ptr<const Report> gather(const std::vector<Argument>& arguments) const;
-  /// Runs a SELECT on the database it was given.
+  /// Runs a SELECT on MyBd.
   ado::Recordset query(const std::string& statement) const;
 
   std::shared_ptr<ReportOutlet> outlet_;

@@ -7,9 +7,9 @@ class QGuiApplication;
 
 namespace korvantes::office {
 
-/// Qt's application object for a process that shows nothing: fonts need one. It takes Qt's
-/// offscreen platform whatever the environment says, leaves the process's locale as it was, and
-/// keeps back what Qt has to say about an environment without a desktop.
+/// Qt's application object for a process without windows, as fonts need one. It uses Qt's offscreen
+/// platform whatever the environment says, leaves the locale of the process unchanged, and
+/// suppresses Qt's warnings about an environment without a desktop.
 class OffscreenApplication {
  public:
   OffscreenApplication();
@@ -17,7 +17,7 @@ class OffscreenApplication {
   OffscreenApplication(const OffscreenApplication&) = delete;
   OffscreenApplication& operator=(const OffscreenApplication&) = delete;
 
-  /// There is an application object, of whatever kind: a second one must not be made.
+  /// Whether there is an application object of any kind: a second one must not be created.
   static bool exists();
 
  private:

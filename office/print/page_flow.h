@@ -10,11 +10,11 @@ class QPainter;
 
 namespace korvantes::office {
 
-/// Lines one below the other, from page to page. A flow without a painter only counts the pages, so
-/// that a report of any length is told its number of pages without being kept in memory.
+/// Lines one below the other, across pages. A flow without a painter only counts the pages, so that
+/// a report of any length learns its number of pages without being kept in memory.
 class PageFlow {
  public:
-  /// Stands at the foot of every page, with the number of the page.
+  /// Printed at the foot of every page, with the page number.
   struct Foot {
     QString text;
     int pages = 0;
@@ -22,15 +22,15 @@ class PageFlow {
 
   /// Counts.
   explicit PageFlow(const Sheet& sheet);
-  /// Paints; the painter is at work on the device.
+  /// Paints; the painter is active on the device.
   PageFlow(const Sheet& sheet, QPagedPaintDevice& device, QPainter& painter, Foot foot);
 
   const Sheet& sheet() const { return sheet_; }
   int pages() const { return page_; }
 
-  /// Written at the top of each page that begins from now on.
+  /// Called at the top of each new page from now on.
   void atTop(std::function<void()> heading) { heading_ = std::move(heading); }
-  /// Begins a page unless the lines that follow, this many millimetres high together, fit.
+  /// Begins a new page unless the next lines, of this height in millimetres, fit together.
   void keep(double height);
   /// A line. `paint` is called with its canvas and its upper edge when the flow paints.
   template <class Paint>
@@ -42,7 +42,7 @@ class PageFlow {
     }
     y_ += height;
   }
-  /// Leaves room, but not at the end of a page.
+  /// Leaves a gap, except at the end of a page.
   void space(double height) { y_ += height; }
 
  private:
@@ -56,7 +56,7 @@ class PageFlow {
   std::function<void()> heading_;
   int page_ = 1;
   double y_ = 0;
-  /// Below the heading of the page: nothing is gained by another page.
+  /// Where the page's own heading ends: from here another page would gain nothing.
   double top_ = 0;
 };
 

@@ -20,7 +20,7 @@ constexpr int kDotsPerInch = 600;
 }
 
 /// A file that replaces another one when it is complete. It keeps the system's reason when writing
-/// fails, for which Qt has words in its own language only.
+/// fails, as Qt's own message is in English.
 class ReplacementFile : public QSaveFile {
  public:
   explicit ReplacementFile(const std::filesystem::path& file)
@@ -57,7 +57,7 @@ void writePdf(const Report& report, const std::filesystem::path& file) {
     report.setUp(writer);
     report.paint(writer);
   }
-  // On commit Qt takes no notice of what it fails to write only then.
+  // On commit Qt ignores a failure to write the last bytes.
   errno = 0;
   if (!replacement.flush() && replacement.failure() == 0) fail(file, errno != 0 ? errno : EIO);
   if (replacement.failure() != 0) fail(file, replacement.failure());

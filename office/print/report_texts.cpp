@@ -43,6 +43,11 @@ QString ReportTexts::text(const ado::Variant& value) const {
   return onOneLine(QString::fromStdString(screen::CStr(value, regional_)));
 }
 
+QString changedSinceSettled(const QString& commissions) {
+  return "Las comisiones de los albaranes suman hoy " + commissions +
+         ", no la base guardada: algún albarán ha cambiado después de liquidarse.";
+}
+
 QString counted(std::size_t count, const char* one, const char* many) {
   return QString("%1 %2").arg(count).arg(QString::fromUtf8(count == 1 ? one : many));
 }

@@ -10,7 +10,7 @@
 
 namespace korvantes::office {
 
-/// Values as they stand in a report, under the regional settings of the desktop that gathered it.
+/// Values as a report shows them, under the regional settings of the desktop that gathered it.
 class ReportTexts {
  public:
   explicit ReportTexts(screen::Regional regional) : regional_(std::move(regional)) {}
@@ -19,7 +19,7 @@ class ReportTexts {
   QString amount(const std::optional<ado::Decimal>& amount) const;
   /// "7,50"; empty for Null.
   QString percent(const ado::Variant& percent) const;
-  /// "24/11/2026", or what stands in for Null.
+  /// "24/11/2026", or `instead` for Null.
   QString date(const ado::Variant& date, const char* instead = "") const;
   /// "A/123"; the number alone without a series, empty without a number.
   QString document(const ado::Variant& series, const ado::Variant& number) const;
@@ -29,6 +29,9 @@ class ReportTexts {
  private:
   screen::Regional regional_;
 };
+
+/// Says that the commissions of a settlement's notes are no longer its stored base.
+QString changedSinceSettled(const QString& commissions);
 
 /// "1 albarán", "2000 albaranes".
 QString counted(std::size_t count, const char* one, const char* many);

@@ -12,15 +12,16 @@ constexpr Column kInvoices[] = {
     {"Cliente", 57, Align::Left},   {"Importe", 23, Align::Right}, {"% Com.", 13, Align::Right},
     {"Comisión", 23, Align::Right},
 };
-/// Subtotals: each amount behind its name in small type.
+/// Subtotals: each amount after its name in small type.
 constexpr Column kSums[] = {{"", 41, Align::Left},       {"Base", 28, Align::Right},
                             {"IVA", 26, Align::Right},   {"Retención", 33, Align::Right},
                             {"Total", 29, Align::Right}, {"", 23, Align::Right}};
 
 constexpr double kTitle = 9, kLimits = 5.5, kCaptions = 5.5, kContinuation = 5.5;
 constexpr double kAgent = 7, kSettlement = 5.6, kRow = 4.7;
-constexpr double kSettlementTotal = 6.2, kAgentTotal = 7, kGrandTotal = 8;
-/// Invoices that a settlement has below its heading before a page may end.
+constexpr double kSettlementTotal = 6.2, kDayTotal = 6.4, kAgentTotal = 7, kGrandTotal = 8;
+constexpr double kRemark = 4.4;
+/// Invoices that a settlement's heading keeps below it on its page.
 constexpr std::size_t kOpeningRows = 2;
 constexpr double kGap = 3, kAgentName = 125;
 

@@ -10,7 +10,7 @@ namespace korvantes::office {
 
 /// A delivery note of a settlement, with today's amounts of its lines.
 struct SettledNote {
-  bool exists = false;      ///< the sales application may have cleared it away
+  bool exists = false;      ///< the sales application may have deleted it
   bool hasInvoice = false;  ///< or its invoice
   ado::Variant invoice;     ///< key
   ado::Variant invoiceSeries, invoiceNumber, invoiceDate;
@@ -18,13 +18,13 @@ struct SettledNote {
   ado::Variant customer;
   ado::Decimal net, commission;  ///< cents; 0 without lines
 
-  /// The commission as a part of the net amount, as the settlement's screen shows it; 0 when the
-  /// net amount is 0.
+  /// The commission as a percentage of the net amount, as the settlement screen shows it; 0 when
+  /// the net amount is 0.
   double percent() const;
 };
 
 /// The statement that gives the delivery notes of a settlement, those of one invoice together,
-/// those without an invoice last, and behind them those that are gone.
+/// then those without an invoice, and last those that are gone.
 std::string notesStatement(std::int64_t settlement);
 
 /// A row of that statement's result, from 0.

@@ -123,7 +123,7 @@ void SettlementReport::writeNotes(PageFlow& flow) const {
     const std::size_t end = endOfInvoice(first);
     const double subtotal = end - first > 1 ? kSubtotal : 0;
     for (std::size_t row = first; row < end; ++row) {
-      // A subtotal never stands alone at the top of a page.
+      // A subtotal is never alone at the top of a page.
       flow.keep(kRow + (row + 1 == end ? subtotal : 0) + (row + 1 == rows_ ? kGrandTotal : 0));
       writeNote(flow, settledNote(notes_, row));
     }
@@ -217,9 +217,7 @@ void SettlementReport::writeTotals(PageFlow& flow) const {
   if (!changed) return;
   flow.line(kRemark, [&](Canvas& canvas, double y) {
     canvas.text(QRectF(0, y, kPageWidth, kRemark), Face::Note,
-                "Las comisiones de los albaranes suman hoy " + texts_.amount(commission_.value()) +
-                    ", no la base guardada: algún albarán ha cambiado después de liquidarse.",
-                Align::Right, Ink::Grey);
+                changedSinceSettled(texts_.amount(commission_.value())), Align::Right, Ink::Grey);
   });
 }
 

@@ -15,7 +15,7 @@ struct SettledNote;
 /// One settlement with its delivery notes, as it goes to the agent.
 class SettlementReport : public PagedReport {
  public:
-  /// @param settlement nothing when there is none: the report says so
+  /// @param settlement empty if it does not exist: the report says so
   /// @param notes the result of notesStatement
   SettlementReport(std::optional<Settlement> settlement, ado::Recordset notes, ReportTexts texts,
                    ado::Date printed);
@@ -34,7 +34,7 @@ class SettlementReport : public PagedReport {
   void writeInvoiceTotal(PageFlow& flow, std::size_t first, std::size_t end) const;
   void writeTotals(PageFlow& flow) const;
   void writeRemarks(PageFlow& flow) const;
-  /// Row behind the last note of the invoice whose first note this is.
+  /// The row after the last note of the invoice whose first note this is.
   std::size_t endOfInvoice(std::size_t first) const;
 
   std::optional<Settlement> settlement_;

@@ -10,7 +10,7 @@ constexpr Column kNotes[] = {
     {"Cliente", 57, Align::Left},   {"Importe", 22, Align::Right}, {"% Com.", 13, Align::Right},
     {"Comisión", 22, Align::Right},
 };
-/// Subtotals: what they are of, in front of the columns of amounts.
+/// Subtotals: what they add up, before the columns of amounts.
 constexpr Column kSubtotals[] = {
     {"", 123, Align::Left}, {"", 22, Align::Right}, {"", 13, Align::Right}, {"", 22, Align::Right}};
 

@@ -12,7 +12,7 @@ QFont fontOf(double points, bool bold) {
   font.setStyleHint(QFont::SansSerif);
   font.setPointSizeF(points);
   font.setBold(bold);
-  // Without pairs to kern a text is as wide as its letters together.
+  // Without kerning a text is as wide as the sum of its letters.
   font.setKerning(false);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
@@ -33,7 +33,7 @@ Typeface::Typeface(double points, bool bold, QPaintDevice& device)
 double Typeface::width(const QString& text) const {
   double sum = 0;
   for (const QChar letter : text) {
-    // Others may stand above one another, join, or come from another font.
+    // Other letters may combine, join, or come from another font.
     if (letter.unicode() >= kKept) return metrics_.horizontalAdvance(text);
     sum += advances_[letter.unicode()];
   }

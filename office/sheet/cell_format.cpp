@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view kPlaces = "0#.,";
 
-/// Between quotes: a % or a letter would mean something of its own.
+/// In quotes: a % or a letter would have a meaning of its own.
 std::string literal(std::string_view text) {
   std::string plain(text);
   plain.erase(std::remove(plain.begin(), plain.end(), '"'), plain.end());
@@ -29,8 +29,8 @@ std::string wholePart(std::size_t leastDigits, bool grouped) {
 CellFormat numberFormat(std::string_view mask) {
   const auto first = mask.find_first_of(kPlaces);
   if (first == std::string_view::npos) return {};
-  const auto behind = mask.find_last_of(kPlaces) + 1;
-  const std::string_view places = mask.substr(first, behind - first);
+  const auto end = mask.find_last_of(kPlaces) + 1;
+  const std::string_view places = mask.substr(first, end - first);
   const auto point = std::min(places.find('.'), places.size());
 
   CellFormat format;
@@ -42,7 +42,7 @@ CellFormat numberFormat(std::string_view mask) {
     if (place != '0' && place != '#') continue;
     format.code += format.places++ == 0 ? std::string(".") + place : std::string(1, place);
   }
-  format.code += literal(mask.substr(behind));
+  format.code += literal(mask.substr(end));
   return format;
 }
 

@@ -12,11 +12,11 @@ struct CellFormat {
   bool grouped = false;
 };
 
-/// From a mask of numbers as screen::Format takes it, "##,##0.00 ". The blank behind stays.
+/// From a number mask of screen::Format, "##,##0.00 ". Trailing blanks are kept.
 CellFormat numberFormat(std::string_view mask);
-/// Thousands apart, so many decimals; a plain whole number without any.
+/// With thousands separators and this many decimals; a plain whole number for 0.
 CellFormat amountFormat(int places);
-/// From a mask of dates; dd/mm/yyyy where it is none.
+/// From a date mask; dd/mm/yyyy if it is not one.
 CellFormat dateFormat(std::string_view mask = {});
 
 }  // namespace korvantes::office

@@ -46,7 +46,7 @@ double ExactSum::value() const {
   Wide units = units_;
   int scale = scale_;
   for (; scale > 0 && units % 10 == 0; --scale) units /= 10;
-  // Digits far behind the 15 that a sheet keeps.
+  // Digits far beyond the 15 that a sheet keeps.
   for (; scale > 0 && (units > kLargest || units < -kLargest); --scale) units /= 10;
   if (units > kLargest || units < -kLargest) return static_cast<double>(units) + inexact_;
   return ado::Decimal(static_cast<std::int64_t>(units), scale).toDouble() + inexact_;

@@ -8,7 +8,7 @@ namespace korvantes::office {
 class ExactSum {
  public:
   void add(const ado::Decimal& number);
-  /// The decimal that the double stands for at 15 significant digits.
+  /// The decimal that the double shows at 15 significant digits.
   void add(double number);
 
   /// The double nearest to the sum. Only sums beyond some thirty digits are rounded on the way.

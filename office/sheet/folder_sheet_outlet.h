@@ -15,7 +15,7 @@ class FolderSheetOutlet : public SheetOutlet {
  public:
   using Written = std::function<void(const std::filesystem::path& file, std::size_t rows)>;
 
-  /// @param written told of each complete file; may be empty
+  /// @param written called for each complete file; may be empty
   explicit FolderSheetOutlet(std::shared_ptr<OutputFolder> folder, Written written = {})
       : folder_(std::move(folder)), written_(std::move(written)) {}
 

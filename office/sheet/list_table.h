@@ -10,7 +10,7 @@
 
 namespace korvantes::office {
 
-/// A list: first the ticks, then the columns that are not hidden, rows as they stand on the screen.
+/// A list: first the ticks, then the visible columns, rows in the order on the screen.
 ///
 /// The cells of a list are texts. A column aligned to the right becomes one of numbers when each
 /// filled cell reads as a number of at most 15 digits without leading zeros, so that codes stay

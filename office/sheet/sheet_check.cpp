@@ -26,7 +26,7 @@ bool sheetIsWhole(const std::string& file, std::uint64_t rowBytes) {
       ::unzOpenCurrentFile(archive.get()) != UNZ_OK)
     return false;
 
-  // What stands before and behind the rows fits into one piece each.
+  // What comes before and after the rows fits into one chunk each.
   std::vector<char> piece(std::size_t{1} << 18U);
   std::string head, tail;
   std::uint64_t size = 0;

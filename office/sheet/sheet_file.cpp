@@ -33,7 +33,7 @@ class Descriptor {
   int number_;
 };
 
-/// Of either kind that programs use to keep others out.
+/// Checks both kinds of lock that programs use.
 bool lockedElsewhere(int file) {
   struct flock wanted {};
   wanted.l_type = F_WRLCK;
@@ -44,7 +44,7 @@ bool lockedElsewhere(int file) {
   return false;
 }
 
-/// A file that stands in the place already must be one that its owner would let go.
+/// An existing file must be one that its owner would give up.
 void requireReplaceable(const fs::path& file, const fs::file_status& status) {
   if (fs::is_directory(status)) throw writeFailure(file, EISDIR);
   if (!fs::is_regular_file(status)) throw writeFailure(file, "no es un fichero corriente");

@@ -13,8 +13,8 @@ namespace korvantes::office {
 ado::Error writeFailure(const std::filesystem::path& file, int errorNumber);
 ado::Error writeFailure(const std::filesystem::path& file, const std::string& words);
 
-/// A file that appears whole under its name or not at all. It is written in a folder of its own
-/// beside its place, which nobody else can look into and which is gone afterwards.
+/// A file that appears whole under its name or not at all. It is written in a private
+/// folder beside its target, which is removed afterwards.
 class SheetFile {
  public:
   /// Throws ado::Error when the file could not be put there: no such folder, no permission, a file
@@ -26,8 +26,8 @@ class SheetFile {
   const std::filesystem::path& folder() const { return folder_->path(); }
   /// Where to write the contents.
   std::filesystem::path draft() const;
-  /// Puts the draft in its place, once its bytes are on the disk; a file that it replaces hands on
-  /// its permissions. Throws ado::Error.
+  /// Moves the draft to its target once its bytes are on the disk, with the permissions of a file
+  /// that it replaces. Throws ado::Error.
   void commit();
 
  private:

@@ -23,10 +23,10 @@ struct SheetColumn {
   bool totalled = false;  ///< has its sum below
 };
 
-/// What is to be written, read row after row while it is written: nothing of it is copied.
+/// What is written, read row by row without a copy.
 class SheetTable {
  public:
-  /// Text of the column of ticks in rows that are ticked, and in those that are not.
+  /// Texts of the column of ticks.
   static constexpr const char* kTicked = "Sí";
   static constexpr const char* kUnticked = "No";
 
@@ -36,14 +36,14 @@ class SheetTable {
   virtual std::size_t rows() const = 0;
   /// Null and binary values are empty cells.
   virtual ado::Variant cell(std::size_t row, std::size_t column) const = 0;
-  /// The column of ticks; its sums come a second time, over the ticked rows alone.
+  /// The column of ticks, if any; sums are then also given over the ticked rows only.
   virtual std::optional<std::size_t> tickColumn() const { return std::nullopt; }
 
  protected:
   std::vector<SheetColumn> columns_;
 };
 
-/// Whether a column holds percentages, by its caption: their sum tells nothing.
+/// Whether a column holds percentages, by its caption: their sum is meaningless.
 bool isPercentage(const std::string& caption);
 
 }  // namespace korvantes::office

@@ -4,11 +4,11 @@
 
 namespace korvantes::office {
 
-/// A text as a cell can hold it: valid UTF-8 of characters that a workbook may have, at most 32,767
-/// units of UTF-16. A longer one is cut and ends in "…"; what is not valid stands as U+FFFD.
+/// A text that a cell can hold: valid UTF-8 of characters that a workbook allows, at most 32,767
+/// units of UTF-16. A longer one is cut and ends in "…"; what is not valid becomes U+FFFD.
 std::string cellText(const std::string& text);
 
-/// "TITLE.xlsx", without what file systems refuse in a name and not longer than they take.
+/// "TITLE.xlsx", without characters that file systems refuse and not longer than they allow.
 std::string fileNameFor(const std::string& title);
 
 }  // namespace korvantes::office

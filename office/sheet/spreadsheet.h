@@ -12,16 +12,15 @@ namespace korvantes::office {
 
 class SheetTable;
 
-/// The object behind "BELTRIS.bSheets". Its members, without regard to case:
+/// The object "BELTRIS.bSheets". Its members, regardless of case:
 ///
 /// - property `sTitulo`: the title above the table, and the name offered for the file;
 /// - `ListToExcel(ListView)`: all rows of the list, in the order on the screen, ticks as a column;
 /// - `GridToExcel(recordset, DataGrid)`: all rows of the recordset under the visible columns of the
 ///   grid. The recordset's current row stays as it is.
 ///
-/// Both return when the file stands complete under its name, or at once when the outlet gives no
-/// file. Whatever fails is an ado::Error with a Spanish sentence, and a file that was there before
-/// is as it was.
+/// Both return when the file is complete under its name, or at once when the outlet gives no file.
+/// Every failure is an ado::Error with a Spanish sentence and leaves an existing file unchanged.
 class Spreadsheet : public Object {
  public:
   explicit Spreadsheet(std::shared_ptr<SheetOutlet> outlet) : outlet_(std::move(outlet)) {}

@@ -49,14 +49,14 @@ void Workbook::requireWritten() const {
 }
 
 void Workbook::close() {
-  // The library would write the last row and go on without a look at whether all of them arrived.
+  // The library would write the last row and go on without checking that all of them arrived.
   ::lxw_worksheet_write_single_row(sheet_);
   std::fflush(sheet_->optimize_tmpfile);
   requireWritten();
   const auto rowBytes = static_cast<std::uint64_t>(::ftello(sheet_->optimize_tmpfile));
 
   lxw_workbook* const closing = book_;
-  book_ = nullptr;  // closing frees it, whatever comes of it
+  book_ = nullptr;  // closing frees it, even if it fails
   errno = 0;
   if (::workbook_close(closing) != LXW_NO_ERROR)
     throw writeFailure(place_, errno == 0 ? EIO : errno);

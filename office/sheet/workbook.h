@@ -8,8 +8,8 @@
 
 namespace korvantes::office {
 
-/// A point in numbers, in this thread, whatever language the program runs in: libxlsxwriter writes
-/// its numbers with printf, and a toolkit sets the user's language.
+/// Makes the decimal separator of this thread a point: libxlsxwriter writes numbers with printf,
+/// and a toolkit sets the user's locale.
 class PointInNumbers {
  public:
   PointInNumbers();
@@ -21,7 +21,7 @@ class PointInNumbers {
   locale_t plain_, before_;
 };
 
-/// A workbook being written, with one sheet, row after row in memory that does not grow.
+/// A workbook of one sheet, written row by row in constant memory.
 class Workbook {
  public:
   /// @param place the file's name in messages
@@ -37,8 +37,8 @@ class Workbook {
 
   /// Throws ado::Error when rows written before did not reach the disk.
   void requireWritten() const;
-  /// Completes the file. Throws ado::Error also where the library did not notice that the disk had
-  /// no room.
+  /// Completes the file. Throws ado::Error also where the library did not notice that the disk was
+  /// full.
   void close();
 
  private:

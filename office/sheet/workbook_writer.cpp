@@ -28,7 +28,11 @@ lxw_col_t columnNumber(std::size_t column) {
   return static_cast<lxw_col_t>(column);
 }
 
-/// Writes one table into a new workbook, from top to bottom: rows leave the memory at once.
+std::string withoutTrailingBlanks(const std::string& text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+/// Writes one table into a new workbook, from top to bottom: rows are not kept in memory.
 class TableWriter {
  public:
   TableWriter(Workbook& workbook, const SheetTable& table, const std::string& title)
@@ -52,7 +56,7 @@ class TableWriter {
   }
 
  private:
-  /// What is found out about a column while its rows are written, and its formats.
+  /// What is learnt about a column while its rows are written, and its formats.
   struct Column {
     lxw_format* heading = nullptr;
     lxw_format* cell = nullptr;
@@ -104,7 +108,7 @@ void TableWriter::describe() const {
 
 lxw_format* TableWriter::aligned(const SheetColumn& column) const {
   lxw_format* format = workbook_.newFormat();
-  // A screen's numbers stand to the left where nobody said otherwise; a sheet's line up.
+  // On a screen numbers are aligned left by default; in a sheet they line up.
   if (column.alignment == Alignment::Center) {
     ::format_set_align(format, LXW_ALIGN_CENTER);
   } else if (column.kind == SheetColumn::Kind::Number) {
@@ -135,7 +139,7 @@ void TableWriter::makeFormats() {
     ::format_set_bold(columns_[i].total);
     ::format_set_top(columns_[i].total, LXW_BORDER_THIN);
   }
-  // Longer than its column, it goes on over the empty ones behind.
+  // A caption longer than its column runs on over the empty ones after it.
   totalCaption_ = workbook_.newFormat();
   ::format_set_bold(totalCaption_);
   ::format_set_top(totalCaption_, LXW_BORDER_THIN);
@@ -168,7 +172,7 @@ void TableWriter::writeHeading() const {
 void TableWriter::setUpFilter() const {
   if (table_.rows() == 0) return;
   ::worksheet_autofilter(sheet_, kHeadingRow, 0, lastRow(), columnNumber(columns_.size() - 1));
-  // Numbers of documents are texts on purpose; no sheet has to warn of them.
+  // Document numbers are texts on purpose; the sheet need not warn about them.
   std::string texts;
   for (std::size_t i = 0; i < columns_.size(); ++i)
     if (described(i).kind == SheetColumn::Kind::Text)
@@ -187,8 +191,8 @@ void TableWriter::writeRow(std::size_t row) {
 
 void TableWriter::writeCell(lxw_row_t row, std::size_t column, const ado::Variant& value,
                             bool ticked) {
-  // Days from here on count from the end of 1899 in a sheet; before, its calendar has a day that
-  // never was.
+  // From this day on a sheet counts from the end of 1899; before, its calendar has a day that never
+  // existed.
   constexpr ado::Date kFirstDay{1900, 3, 1};
   constexpr long kDaysTo1970 = 25569;
   lxw_format* format = columns_[column].cell;
@@ -210,13 +214,14 @@ void TableWriter::writeCell(lxw_row_t row, std::size_t column, const ado::Varian
                                static_cast<double>(value.date().serial() + kDaysTo1970), format);
       return;
     case Kind::Text:
-      return writeText(row, column, value.text(), format);
+      // Fields of fixed length come padded with blanks, which no search in a sheet expects.
+      return writeText(row, column, withoutTrailingBlanks(value.text()), format);
   }
 }
 
 void TableWriter::writeNumber(lxw_row_t row, std::size_t column, const ado::Variant& value,
                               bool ticked) {
-  // A sheet keeps 15 digits: a longer code stays whole as a text, which sums leave out.
+  // A sheet keeps 15 digits: a longer code is kept as a text, which sums ignore.
   constexpr std::int64_t kFifteenDigits = 1'000'000'000'000'000;
   Column& found = columns_[column];
   const double number = value.asDouble();
@@ -284,7 +289,7 @@ std::string TableWriter::range(std::size_t column) const {
 
 void TableWriter::setWidths() const {
   // At 96 points an inch a twip is the fifteenth part of a point. Figures of the usual font are 7
-  // points wide, bold ones a little more; a number that finds no room shows as #####.
+  // points wide, bold ones a little more; a number that does not fit shows as #####.
   constexpr double kTwips = 15, kFigure = 7.6, kMargin = 10, kFilterButton = 20;
   constexpr double kWidestHeading = 260, kWidest = 1780;
   constexpr std::size_t kDateFigures = 10;

@@ -27,6 +27,37 @@ TEST(AgentsOpenCases, StoredValuesShowWholeNullsEmptyAndWithoutPercentageNothing
   });
 }
 
+TEST(AgentsOpenCases, ASaveSaysWhichCodesItReplacesAndNullIsOneOfThem) {
+  const std::string regime = "\r\nRégimen fiscal (sin valor) pasará a ser «01 - General»";
+  const struct {
+    const char* codes;
+    std::string message;
+  } cases[] = {
+      {"AGE_REG = Null", "El agente tiene códigos sin valor. Si confirma la entrada:" + regime},
+      {"AGE_REG = Null, AGE_PRO = ' ', AGE_PAI = 999",
+       "El agente tiene códigos que no están en las listas. Si confirma la entrada:"
+       "\r\nProvincia (sin valor) pasará a ser «01 - Araba»"
+       "\r\nPaís 999 pasará a ser «001 - País»" +
+           regime},
+  };
+  for (const auto& each : cases) {
+    World world;
+    world.sql(std::string("update Age set ") + each.codes + " where AGE_ID = 3");
+    world.show([&](Screen& screen) {
+      screen.row(0);
+      screen.click("cmdSalvar");
+      EXPECT_EQ(world.messages.at(0), "[48] Agentes | " + each.message);
+      // A new agent has no codes to lose.
+      world.messages.clear();
+      screen.row(2);
+      screen.click("cmdNuevo");
+      screen.type(9, "1");
+      screen.click("cmdSalvar");
+      EXPECT_THAT(world.messages, ElementsAre(HasSubstr("Confirma la entrada")));
+    });
+  }
+}
+
 TEST(AgentsOpenCases, WithFewerThanTenCountriesTheFirstShows) {
   World world;
   world.sql("delete from Vespara.dbo.PAIS where PAIS_COD > 33");

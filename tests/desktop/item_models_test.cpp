@@ -3,6 +3,7 @@
 
 #include "desktop/grid_model.h"
 #include "desktop/list_model.h"
+#include "desktop/row_table.h"
 #include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
@@ -42,6 +43,29 @@ TEST_F(ItemModels, GridFollowsItsRecordset) {
   form.grid.DataSource(ado::Recordset());
   model.readAgain();
   EXPECT_EQ(model.columnCount(), 0);
+}
+
+TEST_F(ItemModels, NumbersAreShownToTheirLastDigitInColumnsOfAnyWidth) {
+  QWidget window;
+  RowTable table(window);
+  table.resize(300, 60);
+  const auto picture = [&](const std::string& text, int width) {
+    ado::Recordset rows = screen::sampleRows(1);
+    rows.Collect("Nombre", text);
+    rows.Update();
+    form.grid.DataSource(rows);
+    GridModel model(form.grid);
+    table.setModel(&model);
+    table.setColumnHidden(0, true);
+    table.setColumnWidth(1, width);
+    const QImage image = table.grab().toImage();
+    table.setModel(nullptr);
+    return image;
+  };
+  for (const int width : {40, 54, 70}) {
+    EXPECT_NE(picture("-123.456.789,01 ", width), picture("-123.456.789,08 ", width)) << width;
+    EXPECT_EQ(picture("Representaciones 1", width), picture("Representaciones 2", width));
+  }
 }
 
 TEST_F(ItemModels, ShowTheCurrentRowOfTheRecordset) {

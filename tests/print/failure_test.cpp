@@ -13,7 +13,7 @@ namespace {
 using support::failureOf;
 using testing::HasSubstr;
 
-TEST(ReportCalls, ThatDoNotFitAreToldInSpanish) {
+TEST(ReportCalls, ThatDoNotFitAreReportedInSpanish) {
   PrintWorld world;
   const auto print = world.print(), bare = world.component();
   const std::string select = "select lca.* from lca";

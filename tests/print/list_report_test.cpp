@@ -3,27 +3,20 @@
 #include <random>
 #include <sstream>
 
+#include "report/merged_invoices.h"
+#include "report/search_statements.h"
 #include "tests/print/print_world.h"
+#include "tests/support/recording_connection.h"
 
 namespace korvantes::office {
 namespace {
 
-using ado::FieldType;
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
-ado::Recordset emptyRows() {
-  ado::Recordset rows;
-  for (const char* name :
-       {"Fav_Id", "Lca_Id", "Fav_Bruto", "Comision", "Porcentaje", "Age_Id", "Fav_CliCod",
-        "Lca_Base", "Fav_Numero", "Lca_Iva", "Lca_Retencion", "Lca_Total"})
-    rows.Fields().Append(name, FieldType::Double);
-  for (const char* name : {"Lca_Fecha", "Fav_Fecha"}) rows.Fields().Append(name, FieldType::Date);
-  for (const char* name : {"Age_Nom", "Factura", "Fav_CliNom", "Fav_Serie", "Age_Nif"})
-    rows.Fields().Append(name, FieldType::VarChar, 100);
-  rows.Open();
-  return rows;
-}
+const ado::Date kToday{2026, 11, 24};
 
 struct Sums {
   long base = 0, vat = 0, withholding = 0, total = 0, commissions = 0;
@@ -33,10 +26,6 @@ struct Sums {
   }
 };
 
-double euros(long cents) {
-  return static_cast<double>(cents) / 100;
-}
-
 std::string show(PrintWorld& world, const ado::Recordset& rows) {
   const auto print = world.print();
   print->set("sAcotacion1", "Entre las fechas de liquidación Primera y Ultima");
@@ -45,65 +34,76 @@ std::string show(PrintWorld& world, const ado::Recordset& rows) {
   return world.text();
 }
 
-TEST(ListReport, AddsUpSettlementsAgentsAndTheWhole) {
+/// The values of a settlement for PrintWorld::settle.
+std::string stored(const std::string& date, const Sums& head) {
+  const auto amount = [](long cents) { return std::to_string(cents) + " / 100.0, "; };
+  return date + ", Null, 0, 0, " + amount(head.base) + "0, " + amount(head.vat) + "0, " +
+         amount(head.withholding) + amount(head.total) + "Null";
+}
+
+TEST(ListReport, AddsUpSettlementsDaysAgentsAndTheWhole) {
   PrintWorld world;
-  ado::Recordset rows = emptyRows();
+  std::vector<ado::Variant> cells;
   std::mt19937 dice(12);
-  std::map<int, Sums> settlements, agents;
+  std::map<int, Sums> settlements, days, agents;
   Sums whole;
   for (int row = 0; row < 1000; ++row) {
-    // Two settlements of one agent and day come mixed; each agent has four.
-    const int pair = row / 20, settlement = 2 * pair + static_cast<int>(dice() % 2);
-    const int agent = 7 + pair / 2;
+    // The rows of two settlements of one agent and day come mixed; each agent has two such days.
+    const int pair = row / 20, settlement = 1 + 2 * pair + static_cast<int>(dice() % 2);
+    const int agent = 7 + pair / 2 * 2;
     const long commission = static_cast<long>(dice() % 300'000);
-    const Sums head{settlement * 1000 + 5, settlement * 10 + 1, settlement + 9, settlement * 7, 0};
     const bool fresh = !settlements.contains(settlement);
-    for (Sums* sums : {&settlements[settlement], &agents[agent], &whole}) {
+    const Sums head{0, settlement * 10 + 1, settlement + 9, settlement * 7, 0};
+    for (Sums* sums : {&settlements[settlement], &days[pair], &agents[agent], &whole}) {
+      sums->base += commission;
       sums->commissions += commission;
       if (!fresh) continue;
-      sums->base += head.base;
       sums->vat += head.vat;
       sums->withholding += head.withholding;
       sums->total += head.total;
     }
-    rows.AddNew();
-    rows.Collect("Lca_Id", settlement);
-    rows.Collect("Age_Id", agent);
-    rows.Collect("Age_Nom", "Agente " + std::to_string(agent));
-    rows.Collect("Factura", "F/" + std::to_string(row));
-    rows.Collect("Fav_CliNom", "Cliente");
-    rows.Collect("Fav_Fecha", ado::Date{2026, 2, 28});
-    if (row > 0) rows.Collect("Lca_Fecha", ado::Date{2026, 11, 24});
-    rows.Collect("Fav_Bruto", euros(123'456));
-    if (row % 2 == 0) rows.Collect("Porcentaje", 7.5);
-    rows.Collect("Comision", euros(commission));
-    rows.Collect("Lca_Base", euros(head.base));
-    rows.Collect("Lca_Iva", euros(head.vat));
-    rows.Collect("Lca_Retencion", euros(head.withholding));
-    rows.Collect("Lca_Total", euros(head.total));
-    rows.Update();
+    cells.insert(
+        cells.end(),
+        {settlement, agent, "Agente " + std::to_string(agent), ado::Variant(),
+         pair % 2 != 0 ? ado::Variant(kToday) : ado::Variant(), "F/" + std::to_string(row),
+         ado::Date{2026, 2, 28}, ado::Variant(), "Cliente", 1234.56,
+         row % 2 == 0 ? ado::Variant(7.5) : ado::Variant(), static_cast<double>(commission) / 100});
   }
+  for (const auto& [number, sums] : settlements) {
+    const int pair = (number - 1) / 2;
+    world.note(number, 0, std::to_string(sums.commissions) + " / 100.0", "100");
+    ASSERT_EQ(world.settle({number}, stored(pair % 2 == 0 ? "Null" : "'24/11/2026'", sums),
+                           7 + pair / 2 * 2),
+              number);
+  }
+  // Among those that the statement gives, but of an agent without rows.
+  world.settle({}, stored("'24/11/2026'", whole), 8);
+  ado::Recordset rows = support::resultOf(
+      {"Lca_Id", "Age_Id", "Age_Nom", "Age_Nif", "Lca_Fecha", "Factura", "Fav_Fecha", "Fav_CliCod",
+       "Fav_CliNom", "Fav_Bruto", "Porcentaje", "Comision"},
+      std::move(cells));
   rows.moveTo(345);
   const std::string text = show(world, rows);
 
   EXPECT_EQ(rows.position(), 345U);
   EXPECT_EQ(world.delivered.back().rows, 1000U);
-  EXPECT_THAT(text, HasSubstr("Entre las fechas de liquidación Primera y Ultima"));
   EXPECT_THAT(lineWith(text, "F/0 "), StartsWith("F/0 28/02/2026 Cliente 1.234,56 7,50 "));
   EXPECT_EQ(lineWith(text, "F/1 ").find("7,50"), std::string::npos);
-  EXPECT_THAT(text, HasSubstr("sin fecha"));
   for (const auto& [number, sums] : settlements) {
     const std::string of = "Total liquidación " + std::to_string(number);
     ASSERT_EQ(lineWith(text, of + " "), of + " " + sums.text());
     ASSERT_EQ(count(text, of + " "), 1U);
   }
+  EXPECT_EQ(lineWith(text, "Total sin fecha"), "Total sin fecha " + days[0].text());
+  EXPECT_EQ(lineWith(text, "Total del 24/11/2026"), "Total del 24/11/2026 " + days[1].text());
   for (const auto& [number, sums] : agents) {
     const std::string of = "Total agente " + std::to_string(number);
     ASSERT_EQ(lineWith(text, of + " "), of + " " + sums.text());
   }
   EXPECT_EQ(lineWith(text, "Total de "), "Total de 100 liquidaciones " + whole.text());
+  EXPECT_THAT(text, Not(HasSubstr("suman")));
 
-  // Captions stand on every page, and below headings no page begins with a sum.
+  // Captions are on every page, and below headings no page begins with a sum.
   std::istringstream pages(text);
   std::size_t number = 0;
   for (std::string page; std::getline(pages, page, '\f') && !page.empty(); ++number) {
@@ -112,6 +112,56 @@ TEST(ListReport, AddsUpSettlementsAgentsAndTheWhole) {
   }
   EXPECT_THAT(text, HasSubstr("Página 1 de " + std::to_string(number) + "\n"));
   EXPECT_GT(count(text, "(continuación)"), 5U);
+}
+
+TEST(ListReport, FollowsEverySettlementOfADayThroughTheMerge) {
+  PrintWorld world;
+  world.sql("INSERT INTO Cli (Cli_Id) VALUES (1)");
+  for (const int invoice : {1, 2, 3}) world.invoice(invoice);
+  world.sql("UPDATE Fav SET Fav_IdCli = 1, Fav_BIva1 = 1000, Fav_Biva2 = 0, Fav_Biva3 = 0");
+  // Commissions of 100, 50, 7, 2 (its invoice is gone), 30 and 11.
+  const struct {
+    int note, invoice;
+    const char* amount;
+  } notes[] = {{1, 1, "1000"}, {2, 1, "500"}, {3, 2, "70"},
+               {4, 9, "20"},   {5, 3, "300"}, {6, 3, "110"}};
+  for (const auto& each : notes) world.note(each.note, each.invoice, each.amount, "10");
+  const std::string day = "'24/11/2026'";
+  world.settle({1}, stored(day, {10000, 2100, 1500, 10600}));
+  world.settle({2}, stored(day, {5000, 1050, 750, 5300}));  // its only invoice is in the row of 1
+  world.settle({3, 4}, stored(day, {900, 189, 135, 954}));
+  world.settle({5}, stored("'25/11/2026'", {3001, 0, 0, 3001}));  // a cent more than it earns now
+  world.settle({6}, stored("'26/11/2026'", {1100, 0, 0, 1100}));
+  const auto connection = world.connection;
+  const ado::Recordset rows = report::facturasDe(
+      connection->Execute(report::sentenciaDetalle(report::Forma::Factura, true, "")), true,
+      plindor::UtilFormulario());
+  ASSERT_EQ(rows.RecordCount(), 4U);
+  world.sql("DELETE FROM Lca WHERE Lca_Id = 5");
+  connection->forgetCalls();
+  const std::string text = show(world, rows);
+
+  EXPECT_EQ(connection->calls().size(), 1U);
+  EXPECT_THAT(lineWith(text, "F/1 "), EndsWith("1.000,00 15,00 150,00"));
+  const std::pair<const char*, std::string> lines[] = {
+      {"Total liquidación 1 ", Sums{10000, 2100, 1500, 10600, 10000}.text()},
+      {"Sus filas suman 150,00", ". Una factura de varias liquidaciones"},
+      {"Total liquidación 2 ", Sums{5000, 1050, 750, 5300, 5000}.text()},
+      {"Sin filas propias", ": sus facturas están"},
+      {"Total liquidación 3 ", Sums{900, 189, 135, 954, 900}.text()},
+      {"Total del 24/11/2026 ", Sums{15900, 3339, 2385, 16854, 15900}.text()},
+      {"Las filas suman 157,00", ": hay albaranes sin factura"},
+      {"Total liquidación 4 ", Sums{3001, 0, 0, 3001, 3000}.text()},
+      {"suman hoy 30,00, ", "no la base guardada"},
+      {"La liquidación ha cambiado ", "o ya no existe"},
+      {"Total agente 7 ", Sums{18901, 3339, 2385, 19855, 18900}.text()},
+      {"Total de 4 liquidaciones ", Sums{18901, 3339, 2385, 19855, 18900}.text()},
+  };
+  for (const auto& [start, rest] : lines)
+    EXPECT_THAT(lineWith(text, start), HasSubstr(start + rest));
+  EXPECT_EQ(count(text, "suman hoy"), 1U);
+  EXPECT_EQ(count(text, "Total liquidación 5"), 0U);
+  EXPECT_EQ(count(text, "Las filas suman"), 1U);
 }
 
 }  // namespace

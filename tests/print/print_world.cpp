@@ -1,11 +1,11 @@
 #include "tests/print/print_world.h"
 
-#include <cstdio>
 #include <sstream>
 #include <stdexcept>
 
 #include "office/print/folder_report_outlet.h"
 #include "office/print/mz_print.h"
+#include "tests/support/program_output.h"
 
 namespace korvantes::office {
 
@@ -34,10 +34,10 @@ void PrintWorld::note(int note, int invoice, const std::string& amount,
       ", " + amount + ", " + percent + ")");
 }
 
-int PrintWorld::settle(const std::vector<int>& notes, const std::string& amounts) {
+int PrintWorld::settle(const std::vector<int>& notes, const std::string& values, int agent) {
   sql("INSERT INTO Lca (Lca_IdAg, Lca_Fecha, Lca_HFecha, Lca_Cob, Lca_NCob, Lca_Base, Lca_PorIva, "
-      "Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total, Lca_Obs) VALUES (7, " +
-      amounts + ")");
+      "Lca_Iva, Lca_PorRetencion, Lca_Retencion, Lca_Total, Lca_Obs) VALUES (" +
+      std::to_string(agent) + ", " + values + ")");
   const int number = sql("SELECT MAX(Lca_Id) FROM Lca").Fields(0).Value().asLong();
   for (const int each : notes)
     sql("INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (" + std::to_string(number) + ", " +
@@ -66,14 +66,8 @@ std::string PrintWorld::settlementText(int number) {
 
 std::string PrintWorld::text() const {
   if (delivered.empty()) throw std::logic_error("no report was delivered");
-  const std::string order =
-      "pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() + "' -";
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(order.c_str(), "r"), pclose);
-  std::string read;
-  char piece[4096];
-  while (const std::size_t size = fread(piece, 1, sizeof piece, pipe.get()))
-    read.append(piece, size);
-  return read;
+  return support::outputOf("pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() +
+                           "' -");
 }
 
 std::string lineWith(const std::string& text, const std::string& part) {

@@ -20,13 +20,14 @@ class PrintWorld : public support::ScreenWorld {
   /// Delivery note A/`note` on invoice F/`invoice` of 01/10/2026, with one line.
   void note(int note, int invoice, const std::string& amount, const std::string& percent);
   void invoice(int invoice);
-  /// A settlement over notes; gives its number. Further columns come as "name=value".
-  int settle(const std::vector<int>& notes, const std::string& amounts);
+  /// A settlement over notes; gives its number.
+  /// @param values from Lca_Fecha to Lca_Obs, with commas in between
+  int settle(const std::vector<int>& notes, const std::string& values, int agent = 7);
 
   /// The report component as a form uses it, without and with the database.
   std::unique_ptr<Object> component();
   std::unique_ptr<Object> print();
-  /// Report 11 of a settlement, as the text of its PDF; a form feed behind each page.
+  /// Report 11 of a settlement, as the text of its PDF; a form feed after each page.
   std::string settlementText(int number);
 
   std::string file(const std::string& name) const { return out_.file(name); }
@@ -47,7 +48,7 @@ class PrintWorld : public support::ScreenWorld {
 
 /// The line of a text that holds `part`, its blanks squeezed into one each; empty without.
 std::string lineWith(const std::string& text, const std::string& part);
-/// How often it stands there.
+/// How often it occurs.
 std::size_t count(const std::string& text, const std::string& part);
 /// "1.234,56" of cents that are not negative.
 std::string amountText(long cents);

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 #include <random>
-#include <regex>
 
 #include "tests/print/print_world.h"
 #include "tests/support/recording_connection.h"
@@ -8,8 +7,11 @@
 namespace korvantes::office {
 namespace {
 
+using testing::AllOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 TEST(SettlementReport, ShowsTheSettlementAsItIsStored) {
   PrintWorld world;
@@ -42,7 +44,7 @@ TEST(SettlementReport, ShowsTwoThousandNotesToTheCent) {
   PrintWorld world;
   std::mt19937 dice(2026);
   std::vector<int> notes;
-  std::vector<std::string> rows;
+  std::vector<std::pair<std::string, std::string>> rows;  ///< before and after the percentage
   long net = 0, commission = 0;
   for (int note = 1; note <= kNotes; ++note) {
     const long cents = 100 + static_cast<long>(dice() % 1'000'000);
@@ -51,8 +53,9 @@ TEST(SettlementReport, ShowsTwoThousandNotesToTheCent) {
     world.invoice(note);
     world.note(note, note, std::to_string(cents) + " / 100.0", "7.5");
     const std::string number = std::to_string(note);
-    rows.push_back("F/" + number + " 01/10/2026 A/" + number + " Cliente " + number + " " +
-                   amountText(cents) + " % " + amountText(part));
+    rows.emplace_back("F/" + number + " 01/10/2026 A/" + number + " Cliente " + number + " " +
+                          amountText(cents) + " ",
+                      " " + amountText(part));
     notes.push_back(note);
     net += cents;
     commission += part;
@@ -63,11 +66,9 @@ TEST(SettlementReport, ShowsTwoThousandNotesToTheCent) {
   const std::string text = world.settlementText(number);
 
   EXPECT_EQ(world.delivered.back().rows, notes.size());
-  const std::regex percent(R"( \d+,\d\d (?=\S+$))");
-  for (const std::string& row : rows) {
-    const std::string shown = lineWith(text, row.substr(0, row.find(' ')) + " ");
-    ASSERT_EQ(std::regex_replace(shown, percent, " % "), row);
-  }
+  for (const auto& [start, end] : rows)
+    ASSERT_THAT(lineWith(text, start.substr(0, start.find(' ') + 1)),
+                AllOf(StartsWith(start), EndsWith(end)));
   EXPECT_EQ(lineWith(text, "Suma de"),
             "Suma de 2000 albaranes " + amountText(net) + " " + amountText(commission));
   EXPECT_EQ(lineWith(text, "Total"), "Total de la liquidación " + amountText(commission));

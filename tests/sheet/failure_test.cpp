@@ -7,6 +7,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 #include "tests/sheet/sheet_world.h"
 #include "tests/support/full_disk.h"
@@ -103,8 +104,14 @@ TEST(SpreadsheetFile, IsWholeOrTheOldOneWhereverTheDiskIsFull) {
   EXPECT_THAT(world.read(), HasSubstr("\"A/199\""));
 }
 
-TEST(SpreadsheetFile, ReplacesAnOldOneAndKeepsItsPermissionsAndLink) {
+TEST(SpreadsheetFile, ReplacesAnOldOneAndKeepsItsPermissionsAndLinkUnlessTheUserCancels) {
   SheetWorld world;
+  const auto target = std::exchange(world.target, std::nullopt);
+  world.exportList();
+  EXPECT_EQ(world.rowsWritten, std::nullopt);
+  EXPECT_THAT(world.filesInFolder(), IsEmpty());
+  world.target = target;
+
   const fs::path file = world.folder.file("fichero.xlsx");
   put(file, "viejo");
   fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
@@ -114,15 +121,6 @@ TEST(SpreadsheetFile, ReplacesAnOldOneAndKeepsItsPermissionsAndLink) {
   EXPECT_EQ(fs::status(file).permissions(),
             fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
   EXPECT_THAT(world.read(), HasSubstr("\"Imp.Comision\""));
-}
-
-TEST(SpreadsheetFile, IsNotThereWhenTheUserThinksBetterOfIt) {
-  SheetWorld world;
-  world.target.reset();
-  EXPECT_EQ(support::failureOf([&] { world.exportList(); }), "");
-  EXPECT_EQ(world.suggested, "Albaranes de la liquidación.xlsx");
-  EXPECT_EQ(world.rowsWritten, std::nullopt);
-  EXPECT_THAT(world.filesInFolder(), IsEmpty());
 }
 
 TEST(SpreadsheetFile, HasPointsInItsNumbersWhateverTheLanguage) {

@@ -20,8 +20,8 @@ ado::Recordset result(std::vector<ado::FieldDefinition> fields, std::vector<Vari
 
 ado::Recordset settlements() {
   std::vector<Variant> cells{
-      7,      "Peña", Date{2026, 6, 30}, Decimal::money(1234567891), 0.1, Decimal(350, 2),
-      "A/12", true,   ado::Bytes(3)};
+      7,         "Peña", Date{2026, 6, 30}, Decimal::money(1234567891), 0.1, Decimal(350, 2),
+      "A/12   ", true,   ado::Bytes(3)};
   cells.insert(cells.end(),
                {8, "Núñez", Date{1899, 1, 2}, Decimal::money(-1000), 0.2, {}, {}, false, {}});
   cells.insert(cells.end(), {9, {}, {}, {}, {}, Decimal(0, 2), "A/13", {}, {}});
@@ -75,15 +75,22 @@ A4 | A3:H6 | landscape | 9 | None | 0 | $1:$3
 )");
 }
 
-TEST(GridToExcel, TakesTheFieldsWhereTheGridIsBoundToSomethingElse) {
+TEST(GridToExcel, TakesTheFieldsOfOtherRowsThanTheGridsAndAddsNoAmountThatMayRepeat) {
   SheetWorld world;
-  const ado::Recordset rows = settlements();
   for (const bool bound : {false, true}) {
     if (bound) world.grid.DataSource(result({{"Otro", FieldType::Integer}}, {1}));
-    world.exportGrid(rows);
+    world.exportGrid(settlements());
     EXPECT_THAT(world.read(), HasSubstr("\"Lca_Id\" | \"Age_Nom\" | \"Lca_Fecha\""));
-    EXPECT_THAT(world.read(), HasSubstr("7 | \"Peña\" | 30/06/2026 [dd/mm/yyyy] | 123456.7891"));
   }
+  const ado::Recordset rows = result({{"Fav_Id", FieldType::Integer},
+                                      {"Lca_Id", FieldType::Integer},
+                                      {"Fav_Bruto", FieldType::Double},
+                                      {"Comision", FieldType::Double}},
+                                     {1, 5, 100.0, 10.0, 1, 6, 100.0, 20.0});
+  world.grid.DataSource(rows);
+  for (const std::size_t amount : {2U, 3U}) world.grid.Columns(amount).NumberFormat = "#,##0.00";
+  world.exportGrid(rows);
+  EXPECT_THAT(world.read(), HasSubstr("\"Total\" |  |  | =SUBTOTAL(109,D4:D5) -> 30 [#,##0.00]\n"));
 }
 
 TEST(GridToExcel, RefusesMoreRowsThanASheetHasBeforeItAsksForAFile) {

@@ -1,5 +1,5 @@
 """Prints what openpyxl finds in a spreadsheet: its settings, then a line per row, cells between bars.
-Texts stand in double quotes, formats in brackets, formulas before the value kept with them.
+Texts are in double quotes, formats in brackets, formulas before the value kept with them.
 With --columnas also the width of each column, in characters."""
 import json
 import sys

@@ -1,11 +1,8 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -13,6 +10,7 @@
 #include "runtime/screen/form.h"
 #include "scripts/headless_desktop.h"
 #include "tests/support/failure.h"
+#include "tests/support/program_output.h"
 #include "tests/support/temporary_folder.h"
 
 namespace korvantes::office {
@@ -37,10 +35,10 @@ struct SheetWorld : SheetOutlet {
   screen::DataGrid grid{form, "dbgLiqui"};
   support::TemporaryFolder folder;
   Spreadsheet sheets{std::shared_ptr<SheetOutlet>(std::shared_ptr<void>(), this)};  // not owned
-  /// Where the next file goes; nothing: the user thinks better of it.
+  /// Where the next file goes; empty if the user cancels.
   std::optional<std::filesystem::path> target = folder.file("hoja.xlsx");
   std::string suggested;                   ///< name that the object asked for last
-  std::optional<std::size_t> rowsWritten;  ///< rows it told of last
+  std::optional<std::size_t> rowsWritten;  ///< rows it reported last
 
   std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) override {
     suggested = suggestedName;
@@ -60,15 +58,8 @@ struct SheetWorld : SheetOutlet {
 
   /// What read_sheet.py prints of the target.
   std::string read(const std::string& option = {}) const {
-    const std::string command =
-        std::string(READ_SHEET) + " '" + target.value().string() + "' " + option;
-    FILE* const output = ::popen(command.c_str(), "r");
-    std::string text;
-    std::array<char, 4096> piece{};
-    for (std::size_t size = 0; (size = std::fread(piece.data(), 1, piece.size(), output)) > 0;)
-      text.append(piece.data(), size);
-    if (::pclose(output) != 0) throw std::runtime_error(command + " failed");
-    return text;
+    return support::outputOf(std::string(READ_SHEET) + " '" + target.value().string() + "' " +
+                             option);
   }
   std::vector<std::string> filesInFolder() const {
     std::vector<std::string> names;
