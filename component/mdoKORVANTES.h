@@ -24,22 +24,23 @@ const std::shared_ptr<plindor::BaseDatos>& servicioDe(const KORVAN& componente);
 /// The connection of the service of oComponente.
 ado::Connection& Conexion();
 
-/// Undoes a transaction after a failure. Gives what the user must know if that fails too, after a
-/// line break; else the empty text.
+/// Rolls a transaction back after a failure. Returns a line break and a sentence for the user if
+/// that fails too, otherwise the empty text.
 std::string deshaz(ado::Transaction& transaccion);
 
 /// A tax number with its check letter, as the agent master completes it: a text that begins with a
-/// digit gets the letter of its digits, behind them or in place of the letter typed; one that
-/// begins with a letter stays as it is; one of fewer than two characters becomes empty. Blanks
-/// around are taken off first. More than eight digits have no letter: such a text stays as typed.
+/// digit gets the letter of its digits, added at the end or in place of the letter typed; one that
+/// begins with a letter is left as it is; one of fewer than two characters becomes empty. Leading
+/// and trailing blanks are removed first. More than eight digits have no letter: such a text is
+/// left as typed.
 std::string msCompletaNif(const std::string& sNif);
 
-/// Stores the picture that the control shows as that of the agent. A failure is told in a message
+/// Stores the picture that the control shows as that of the agent. A failure is shown in a message
 /// box and leaves the stored picture as it was; nothing is thrown.
 void msGuardaImagen(const std::int32_t& nId, const screen::Image& imagen);
 
-/// Shows the stored picture of the agent in the control, or nothing where there is none. A failure
-/// is told in a message box and leaves the control empty; nothing is thrown.
+/// Shows the stored picture of the agent in the control, or nothing if there is none. A failure is
+/// shown in a message box and leaves the control empty; nothing is thrown.
 void msCargaImagen(const std::int32_t& nId, screen::Image& imagen);
 
 }  // namespace korvantes::mdoKORVANTES
