@@ -43,9 +43,7 @@ void frmNewLiquidAgentes::msBuscarAgente(std::int32_t& nAgente) {
   ado::Recordset rsAgente = mdoKORVANTES::Conexion().Execute(
       std::string(kSelectAgente) + kWhereAgente + std::to_string(nAgente));
   if (rsAgente.isEOF()) {
-    nIdAgente = 0;
     Text1(kCodigo).Text = "";
-    Text1(kNombre).Text = "";
     nRegimen = 0;
   } else {
     nIdAgente = rsAgente.Collect("Age_id").asLong();

@@ -100,8 +100,12 @@ TEST(SettlementTotals, ThatCannotBeComputedAreToldShownEmptyAndNotStored) {
     world.show([&](Screen& screen) {
       screen.makeOut({3});
       screen.text(3).Text = each.vatRate;
-      for (std::size_t row = 0; row < screen.list().Count(); ++row)
-        const_cast<screen::ListView::ListItem&>(screen.list().item(row)).SubItems[5] = each.cell;
+      screen.list().Clear();
+      for (const char* note : {"1", "3"}) {
+        auto& row = screen.list().Add("");
+        row.SubItems = {"", "", "", "", "", each.cell};
+        row.Tag = note;
+      }
       screen.click("cmdSelTodo");
       EXPECT_EQ(world.messages.back(),
                 std::string("[16] Liquidacion de comisiones a Agentes | ") + each.told);
