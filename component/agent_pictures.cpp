@@ -1,5 +1,5 @@
-// The picture of an agent on its way between the control that shows it and its column. The
-// desktop reads and writes pictures as files only, so that both ways pass through one.
+// Stores and loads the picture of an agent. The desktop reads and writes pictures only as files, so
+// both ways use a temporary one.
 #include <optional>
 #include <stdexcept>
 
@@ -25,14 +25,14 @@ screen::MessageBox avisoDe(const std::string& texto) {
   return {texto, screen::style::Plain, std::string(screen::Desktop::kDefaultTitle)};
 }
 
-/// The words of a failure without the path of the passing file, which means nothing to the user:
+/// The words of a failure without the path of the temporary file, which means nothing to the user:
 /// "No se puede escribir el fichero de la imagen: el disco está lleno".
 std::string sinRuta(std::string texto, const std::string& ruta) {
   const auto lugar = texto.find(ruta);
   return lugar == std::string::npos ? texto : texto.replace(lugar, ruta.size(), "de la imagen");
 }
 
-/// Hands the path of a file to the step, and removes the file after it.
+/// Calls the step with the path of a temporary file, and removes the file afterwards.
 template <class Paso>
 auto conFicheroDePaso(Paso paso) {
   const ado::TemporaryFolder carpeta = makePrivateFolder();
@@ -44,7 +44,7 @@ auto conFicheroDePaso(Paso paso) {
   }
 }
 
-/// Stores the picture. Gives what the user must be told instead, if anything.
+/// Stores the picture. Returns a message for the user if it was not stored.
 std::optional<screen::MessageBox> guarda(std::int32_t nId, const screen::Picture& imagen,
                                          const std::string& fichero) {
   auto& escritorio = screen::Desktop::current();
@@ -63,7 +63,7 @@ std::optional<screen::MessageBox> guarda(std::int32_t nId, const screen::Picture
   return std::nullopt;
 }
 
-/// The stored picture of the agent; no picture where there is none.
+/// The stored picture of the agent; the empty picture if there is none.
 screen::Picture carga(std::int32_t nId) {
   const ado::Recordset rs = Conexion().Execute(kParaCargar + std::to_string(nId));
   if (rs.isEOF() || rs.isBOF() || rs.Fields(0).Value().isNull()) return {};
@@ -81,7 +81,7 @@ screen::Picture carga(std::int32_t nId) {
 
 }  // namespace
 
-// The passing file is gone before a message box stands on the screen.
+// The temporary file is removed before any message is shown.
 void msGuardaImagen(const std::int32_t& nId, const screen::Image& imagen) {
   std::optional<screen::MessageBox> aviso;
   try {

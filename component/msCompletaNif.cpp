@@ -11,8 +11,8 @@ bool esNumerico(std::string_view caracter) {
   return screen::IsNumeric(caracter);
 }
 
-/// Blanks around come in with pasted texts; behind a complete number, one would be taken for its
-/// letter and give a second one.
+/// Pasted texts come with blanks around them; a blank after a complete number would be taken for
+/// its letter, and a second letter would be added.
 std::string_view sinBlancos(std::string_view texto) {
   const std::u32string caracteres = ado::toCodePoints(texto);
   constexpr std::u32string_view kBlancos = U" \t\u00A0";
@@ -35,7 +35,7 @@ std::string msCompletaNif(const std::string& sNif) {
 
   const std::string& sNumero = bNumeroDetras ? sTexto : sSinUltimo;
   const std::string sLetra = plindor::UtilFormulario().LetraNif(sNumero, "");
-  // Too many digits have no letter; the one typed is then all there is.
+  // Too many digits have no letter; keep the one that was typed.
   return sLetra.empty() ? sTexto : sNumero + sLetra;
 }
 

@@ -1,11 +1,10 @@
-// data: the tables and the rule from which every commission comes.
 #pragma once
 
 #include <string_view>
 
 namespace korvantes::data {
 
-/// The text of data/schema.sql: T-SQL statements, each ending in a line with ';'.
+/// The text of data/schema.sql: T-SQL statements, each ending with a line of ';'.
 extern const std::string_view kSchema;
 
 }  // namespace korvantes::data

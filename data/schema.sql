@@ -1,8 +1,8 @@
--- The tables, in T-SQL: run as it stands on SQL Server, through the compiler on the other engines,
--- and read by the compiler as its catalogue of types.
+-- The tables, in T-SQL: run as is on SQL Server, through the compiler on the other engines, which
+-- takes the types from here too.
 --
--- Nothing here demands that a delivery note's invoice or an invoice's customer exists: the sales
--- application clears old invoices away, and the statements leave such notes out by their joins.
+-- No foreign keys: the sales application deletes old invoices, and the joins of the statements leave
+-- their delivery notes out.
 -- Line amounts may have four decimals; percentages are exact.
 
 -- Settlements. The key is numbered by the database, and a number is never used twice.
@@ -51,7 +51,7 @@ CREATE TABLE Age (
   AGE_IMG varbinary(max) NULL
 );
 
--- Delivery notes. Cav_IdLca is the settlement that took the note, Null or 0 while there is none.
+-- Delivery notes. Cav_IdLca is the settlement that took the note, Null or 0 if none did.
 CREATE TABLE Cav (
   Cav_Id int NOT NULL PRIMARY KEY,
   Cav_Serie varchar(10) NULL,
@@ -125,7 +125,7 @@ CREATE TABLE PedLi (
 );
 CREATE INDEX PedLi_Pedido ON PedLi (PedLi_IdPedca);
 
--- What several applications share: rates of VAT and withholding by regime and first day of validity.
+-- Shared by several applications: rates of VAT and withholding by regime and first day of validity.
 CREATE TABLE Vespara.dbo.Tivas (
   Tiva_Id int NOT NULL PRIMARY KEY,
   Tiva_reg int NULL,

@@ -1,10 +1,8 @@
 #include "report/frmLiquidAgentes.h"
 
 #include "component/mdoKORVANTES.h"
-#include "runtime/ado/characters.h"
 #include "runtime/screen/conversions.h"
 #include "runtime/screen/desktop.h"
-#include "runtime/screen/user_input.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {
@@ -12,13 +10,12 @@ namespace korvantes {
 namespace {
 
 constexpr int kModal = 1;
-constexpr std::int32_t kPedirAgente = -1;
 constexpr const char* kTeclaEscape = "\x1b";
 
 }  // namespace
 
 frmLiquidAgentes::frmLiquidAgentes()
-    : Form("frmLiquidAgentes"),
+    : SearchForm("frmLiquidAgentes", Text1, {kDesde, kHasta}),
       Label1(*this, "Label1", {1}),
       Option1(*this, "Option1", {kPorFecha, kPorCliente}),
       Check1(*this, "Check1", {kPorFacturas, kPorAlbaranes}),
@@ -32,12 +29,7 @@ frmLiquidAgentes::frmLiquidAgentes()
 void frmLiquidAgentes::wire() {
   for (const auto& [number, check] : Check1.all())
     check->Click = [this, index = number] { Check1_Click(index); };
-  for (const auto& [number, box] : Text1.all()) {
-    const int index = number;
-    box->GotFocus = [this, index] { Text1_GotFocus(index); };
-    box->LostFocus = [this, index] { Text1_LostFocus(index); };
-    box->KeyPress = [this, index](int& character) { Text1_KeyPress(index, character); };
-  }
+  wireBoxes();
   cmdBuscar.Click = [this] { cmdBuscar_Click(); };
   cmdSalir.Click = [this] { cmdSalir_Click(); };
   cmdEmision.Click = [this] { cmdEmision_Click(); };
@@ -46,10 +38,7 @@ void frmLiquidAgentes::wire() {
 }
 
 void frmLiquidAgentes::Form_Load() {
-  oUtil = std::make_unique<plindor::UtilFormulario>();
-  oUtil->Conexion(mdoKORVANTES::ConexionRetenida());
-  oUtil->ColorFoco = 65535;
-  oUtil->ColorNormal = 16777215;
+  creaUtil();
   sTituloForm = " Informe de liquidaciones a agentes";
   Caption = sTituloForm + "(Versión " + mdoKORVANTES::version() + ")";
   rs = ado::Recordset();
@@ -60,26 +49,6 @@ void frmLiquidAgentes::Form_Load() {
   Check1(kPorAlbaranes).Enabled = false;
 }
 
-void frmLiquidAgentes::Form_KeyUp(int& keyCode, int /*shift*/) {
-  switch (keyCode) {
-    case screen::key::Enter:
-      keyCode = 0;
-      if (Tag().empty()) screen::SendKeys("\t");
-      Tag = "";
-      break;
-    case screen::key::Escape:
-      Unload();
-      break;
-    case screen::key::F1:
-      Tag = "e";
-      msBuscarAgente(kPedirAgente);
-      break;
-    default:
-      Tag = "";
-      screen::DoEvents();
-  }
-}
-
 void frmLiquidAgentes::Check1_Click(int index) {
   if (index != kPorFacturas) return;
   const bool bFacturas = Check1(kPorFacturas).Value() != 0;
@@ -88,43 +57,21 @@ void frmLiquidAgentes::Check1_Click(int index) {
   Check1(kPorAlbaranes).Enabled = bFacturas;
 }
 
-void frmLiquidAgentes::Text1_GotFocus(int index) {
-  screen::TextBox& box = Text1(index);
-  if (esFecha(index)) {
-    std::string digits = box.Text();
-    std::erase(digits, '/');
-    box.Text = digits;
-  }
-  oUtil->AlRecibirFoco(box, "");
-}
-
-void frmLiquidAgentes::Text1_KeyPress(int index, int& character) {
-  if (index == kCodigo)
-    oUtil->FiltraTecla(Text1(index), character, false);
-  else if (esFecha(index))
-    oUtil->FiltraTecla(Text1(index), character, true);
-}
-
 void frmLiquidAgentes::Text1_LostFocus(int index) {
   screen::TextBox& box = Text1(index);
   oUtil->AlPerderFoco(box, "");
   if (box.Text().empty()) {
-    if (index == kCodigo) {
-      nIdAgente = 0;
-      Text1(kNombre).Text = "";
-    }
+    if (index == kCodigo) olvidaAgente();
     return;
   }
 
   if (index == kCodigo) {
     // The key filter lets a decimal separator through.
-    if (!ado::allDigits(box.Text())) return avisaCodigoNoValido();
-    msBuscarAgente(screen::CLng(box.Text()));
-    if (nIdAgente == 0) {
-      Tag = "e";
-      screen::MsgBox("Codigo agente no existe", screen::style::Exclamation, sTituloForm);
-      box.SetFocus();
-    }
+    const std::optional<std::int32_t> nCodigo = codigoDe(box.Text());
+    if (!nCodigo) return avisaCodigoNoValido(sTituloForm);
+    msBuscarAgente(*nCodigo);
+    if (nIdAgente == 0)
+      avisaEn(box, "Codigo agente no existe", screen::style::Exclamation, sTituloForm);
   } else if (esFecha(index)) {
     oUtil->AlPerderFoco(box, "dd/mm/yyyy");
   }

@@ -5,19 +5,18 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
-#include "outside/plindor/util_formulario.h"
+#include "component/search_form.h"
 #include "report/search_statements.h"
 #include "runtime/ado/recordset.h"
-#include "runtime/screen/form.h"
 
 namespace korvantes {
 
 /// Search of stored settlements by agent and date: one row per settlement, per invoice of a
-/// settlement, or per delivery note line. Every statement that it sends is a SELECT.
-class frmLiquidAgentes : public screen::Form {
+/// settlement, or per delivery note line. Every statement that it sends is a SELECT. nIdAgente is
+/// the agent of the filter, 0 for all.
+class frmLiquidAgentes : public SearchForm {
  public:
   frmLiquidAgentes();
 
@@ -27,11 +26,10 @@ class frmLiquidAgentes : public screen::Form {
   void msBuscarLiquidaciones();
 
   void Form_Load() override;
-  void Form_KeyUp(int& keyCode, int shift) override;
 
  private:
-  // Indexes of Text1, Check1 and Option1.
-  static constexpr int kCodigo = 0, kNombre = 1, kDesde = 2, kHasta = 3;
+  // Indexes of Text1 after the agent's code and name, of Check1 and of Option1.
+  static constexpr int kDesde = 2, kHasta = 3;
   static constexpr int kSerie = 4, kDesdeNumero = 5, kHastaNumero = 6;
   static constexpr int kPorFacturas = 0, kPorAlbaranes = 1;
   static constexpr int kPorFecha = 0, kPorCliente = 1;
@@ -40,9 +38,7 @@ class frmLiquidAgentes : public screen::Form {
   void wire();
 
   void Check1_Click(int index);
-  void Text1_GotFocus(int index);
-  void Text1_LostFocus(int index);
-  void Text1_KeyPress(int index, int& character);
+  void Text1_LostFocus(int index) override;
   void cmdBuscar_Click();
   void cmdSalir_Click();
   void cmdEmision_Click();
@@ -51,11 +47,8 @@ class frmLiquidAgentes : public screen::Form {
 
   /// Looks an agent up; a negative code asks the user.
   void msBuscarAgente(const std::int32_t& nCodigo);
+  void buscaPorNombre() override;
 
-  /// Says that the code in Text1(0) is none, drops the agent found before, and gives the focus to
-  /// the box.
-  void avisaCodigoNoValido();
-  static bool esFecha(int index) { return index == kDesde || index == kHasta; }
   /// True when both limits are empty or dates; else tells of the first that is neither.
   bool compruebaFechas();
   /// Takes the last result off the screen.
@@ -65,9 +58,6 @@ class frmLiquidAgentes : public screen::Form {
   /// "Primera y 31/12/2026": the limits of the date on screen.
   std::string textoRango() const;
 
-  std::unique_ptr<plindor::UtilFormulario> oUtil;
-  std::int32_t nIdAgente = 0;  ///< agent of the filter, 0 for all
-  std::string sTituloForm;
   std::string sSqlLiqui;  ///< the statement in work
   std::string sCriterio;  ///< what the search leaves for the report
   ado::Recordset rs;      ///< the result that dbgLiqui shows

@@ -23,9 +23,7 @@ bool frmLiquidAgentes::compruebaFechas() {
                                Limite{kHasta, "La fecha «Hasta F.Liquidac.» no es válida"}}) {
     const std::string& sFecha = Text1(limite.index).Text();
     if (sFecha.empty() || screen::IsDate(sFecha)) continue;
-    Tag = "e";
-    screen::MsgBox(limite.aviso, screen::style::Exclamation, sTituloForm);
-    Text1(limite.index).SetFocus();
+    avisaEn(Text1(limite.index), limite.aviso, screen::style::Exclamation, sTituloForm);
     return false;
   }
   return true;

@@ -31,6 +31,9 @@ std::optional<double> parseNumber(std::string_view text,
                                   const Regional& regional = currentRegional());
 /// The same; throws ado::ConversionError ("«abc» no es un número").
 double CDbl(std::string_view text, const Regional& regional = currentRegional());
+/// The same number, exact: every digit of the text counts. Throws ado::ConversionError if the
+/// text is not a number or does not fit.
+ado::Decimal CDec(std::string_view text, const Regional& regional = currentRegional());
 /// Whole number of 32 bits, fractions half to even; throws ado::ConversionError if the text is not
 /// a number or does not fit.
 int CLng(std::string_view text, const Regional& regional = currentRegional());

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <system_error>
 
@@ -38,16 +40,33 @@ class NumberReader {
   }
   bool atEnd() const { return rest_.empty(); }
   std::optional<double> value() const {
-    // "12." was completed to "12..0".
-    std::string text = plain_;
-    if (const auto twice = text.find(".."); twice != std::string::npos) text.erase(twice, 1);
+    const std::string text = plain();
     double number = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     if (result.ec != std::errc()) return std::nullopt;
     return number;
   }
+  /// Nothing when it does not fit.
+  std::optional<ado::Decimal> exact() const {
+    constexpr int kLargestExponent = 30;
+    const std::string text = plain();
+    const std::size_t mark = text.find('e');
+    std::optional<ado::Decimal> number = ado::Decimal::parse(text.substr(0, mark));
+    if (!number || mark == std::string::npos) return number;
+    int exponent = 0;
+    const auto read = std::from_chars(text.data() + mark + 1, text.data() + text.size(), exponent);
+    if (read.ec != std::errc() || std::abs(exponent) > kLargestExponent) return std::nullopt;
+    const int scale = std::clamp(number->scale() - exponent, 0, ado::Decimal::kMaxScale);
+    return ado::Decimal::product(*number, ado::Decimal(1, 0), -exponent, scale);
+  }
 
  private:
+  std::string plain() const {
+    // "12." was completed to "12..0".
+    std::string text = plain_;
+    if (const auto twice = text.find(".."); twice != std::string::npos) text.erase(twice, 1);
+    return text;
+  }
   bool takes(char wanted) { return take({&wanted, 1}); }
   bool take(std::string_view any) {
     if (rest_.empty() || any.find(rest_.front()) == std::string_view::npos) return false;
@@ -101,6 +120,14 @@ class NumberReader {
   throw ado::ConversionError("«" + std::string(text) + "» no es un número");
 }
 
+[[noreturn]] void refuseTooLarge(std::string_view text) {
+  throw ado::ConversionError("«" + std::string(text) + "» es un número demasiado grande");
+}
+
+NumberReader readerOf(std::string_view text, const Regional& regional) {
+  return {ado::trimmed(text, kBlanks), regional.decimalSeparator, regional.thousandsSeparator};
+}
+
 /// The general form: with an exponent from 1E+15 on, and where plain writing would need more than
 /// 15 decimals.
 std::string general(const DecimalDigits& number, const Regional& regional, bool mayHaveExponent) {
@@ -127,8 +154,7 @@ bool IsNumeric(std::string_view text, const Regional& regional) {
 }
 
 std::optional<double> parseNumber(std::string_view text, const Regional& regional) {
-  NumberReader reader(ado::trimmed(text, kBlanks), regional.decimalSeparator,
-                      regional.thousandsSeparator);
+  NumberReader reader = readerOf(text, regional);
   if (!reader.read() || !reader.atEnd()) return std::nullopt;
   return reader.value();
 }
@@ -139,11 +165,19 @@ double CDbl(std::string_view text, const Regional& regional) {
   return *number;
 }
 
+ado::Decimal CDec(std::string_view text, const Regional& regional) {
+  NumberReader reader = readerOf(text, regional);
+  if (!reader.read() || !reader.atEnd()) refuse(text);
+  const std::optional<ado::Decimal> number = reader.exact();
+  if (!number) refuseTooLarge(text);
+  return *number;
+}
+
 int CLng(std::string_view text, const Regional& regional) {
   // The default rounding mode rounds halves to even.
   const double number = std::nearbyint(CDbl(text, regional));
   if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max())
-    throw ado::ConversionError("«" + std::string(text) + "» es un número demasiado grande");
+    refuseTooLarge(text);
   return static_cast<int>(number);
 }
 

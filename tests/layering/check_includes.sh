@@ -50,10 +50,12 @@ check() {
       if (folder(target) == from || from == "host") return 1
       if (from == "runtime") return 0
       if (folder(target) == "runtime") return 1
-      if (from == "outside" || from == "data") return 0
+      if (from == "outside") return 0
+      # Settlements are written through the database service of the host.
+      if (from == "data") return within(target, "outside")
       if (from == "component") return within(target, "outside data")
       if (within(file, "settlement report agents")) {
-        if (target == "component/KORVAN.h" || target == "component/mdoKORVANTES.h") return 1
+        if (target ~ /^component\/(KORVAN|mdoKORVANTES|search_form)\.h$/) return 1
         # A button of the report grid opens the entry screen.
         if (from == "report" && target == "settlement/frmNewLiquidAgentes.h") return 1
         return within(target, "outside data")
@@ -109,8 +111,11 @@ self_test() {
     'OK runtime/ado/variant.h <string>'
     'OK runtime/ado/stream.cpp <sys/stat.h>'
     'OK outside/plindor/service.h "runtime/ado/variant.h"'
+    'OK data/writing.cpp "outside/plindor/service.h"'
     'OK library/show_screens.cpp "settlement/frmNewLiquidAgentes.h"'
     'OK settlement/frmNewLiquidAgentes.h "component/mdoKORVANTES.h"'
+    'OK component/search_form.h <string>'
+    'OK settlement/search.h "component/search_form.h"'
     'OK report/grid.cpp "settlement/frmNewLiquidAgentes.h"'
     'OK engines/sqlite/sqlite_connection.cpp <sqlite3.h>'
     'OK engines/sqlite/functions.cpp "engines/tsql/compiler.h"'
@@ -129,6 +134,7 @@ self_test() {
     'BAD component/KORVAN.cpp "settlement/frmNewLiquidAgentes.h"'
     'BAD component/mdoKORVANTES.h <QString>'
     'BAD settlement/save.cpp "component/KORVAN.cpp"'
+    'BAD settlement/picture.cpp "component/private_folder.h"'
     'BAD settlement/other.cpp "report/grid.cpp"'
     'BAD settlement/relative.cpp "frmNewLiquidAgentes.h"'
     'BAD settlement/above.cpp "../data/schema.h"'

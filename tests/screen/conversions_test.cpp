@@ -46,6 +46,20 @@ TEST(Numbers, AreReadUnderTheRegionalSettings) {
     EXPECT_FALSE(IsNumeric(text, kSpanish)) << text;
 }
 
+TEST(Numbers, AreReadExactlyWhereEveryDigitCounts) {
+  const struct {
+    const char *text, *exact;
+  } cases[] = {{"90071992547409,93", "90071992547409.93"},
+               {"-1.234,50", "-1234.50"},
+               {",05", "0.05"},
+               {"5,", "5.0"},
+               {"1,234567E+15", "1234567000000000"},
+               {"1E-02", "0.01"}};
+  for (const auto& c : cases) EXPECT_EQ(CDec(c.text, kSpanish), *ado::Decimal::parse(c.exact));
+  for (const char* text : {"", "x", "1.5", "99999999999999999999", "1E19", "1E99999999999"})
+    EXPECT_THROW(CDec(text, kSpanish), ado::ConversionError) << text;
+}
+
 TEST(Numbers, BecomeWholeHalfToEvenAndOnlyWithin32Bits) {
   EXPECT_EQ(each({"0007", "2,5", "3,5", "-2,5", "2147483647"},
                  [](const char* text) { return CLng(text, kSpanish); }),

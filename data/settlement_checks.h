@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "runtime/ado/connection.h"
+#include "runtime/ado/date.h"
+
+namespace korvantes::data {
+
+/// Why a settlement is not saved.
+enum class Refusal { NothingMarked, DateMissing, DateInvalid, DateAhead, RatesUnknown, SumUnknown };
+
+/// What the checks before a save look at.
+struct SettlementToCheck {
+  bool stored = false;     ///< it is a stored settlement that is saved again
+  bool anyMarked = false;  ///< at least one delivery note goes into it
+  std::string date;        ///< settlement date as entered
+  ado::Moment now;
+  std::string ratesFailure{};  ///< why the last lookup of rates failed; empty if it did not
+  std::string sumFailure{};    ///< why the amounts could not be computed; empty if they could
+};
+
+/// The first check that fails, in their order; nothing if the settlement may be saved.
+std::optional<Refusal> refusalOf(const SettlementToCheck& settlement);
+/// The sentence for the user.
+std::string wordsOf(Refusal refusal, const SettlementToCheck& settlement);
+/// True if another settlement date mends it.
+bool concernsDate(Refusal refusal);
+
+/// What has to be confirmed before a save; a program that cannot ask takes it as a refusal.
+struct Question {
+  bool removes = false;  ///< yes removes the stored settlement
+  std::string words;
+};
+
+/// An agent other than the one whose notes were listed.
+std::optional<Question> questionAboutAgent(std::int32_t listed, std::int32_t agent,
+                                           const std::string& name);
+
+/// A stored settlement with delivery notes that the list cannot show, as they have lost their
+/// invoice or customer, or without any: saved as listed, it loses those notes, and disappears if
+/// nothing is marked. No question where the user unmarked every note himself. Sends one statement.
+std::optional<Question> questionAboutHiddenNotes(ado::Connection& connection,
+                                                 std::int32_t settlement, std::size_t listed,
+                                                 bool anyMarked);
+
+}  // namespace korvantes::data
