@@ -55,7 +55,7 @@ class User {
   void play(bool saving) {
     desktop_.whileShown = [&](screen::Form& form) {
       desktop_.user().moveFocus(control(form, "Text1(0)"));
-      desktop_.type("1");
+      desktop_.user().type("1");
       desktop_.user().moveFocus(control(form, "Check1"));
       Clock::time_point start = Clock::now();
       desktop_.user().click(control(form, "cmbBuscarFacturas"));
@@ -64,13 +64,13 @@ class User {
       if (saving) {
         desktop_.user().click(control(form, "cmdSelTodo"));
         desktop_.user().moveFocus(control(form, "Text1(2)"));
-        desktop_.type("30062026");
+        desktop_.user().type("30062026");
         desktop_.user().moveFocus(control(form, "Text1(7)"));
         start = Clock::now();
         desktop_.user().click(control(form, "cmdGrabar"));
         saveSeconds_ = secondsSince(start);
       }
-      desktop_.settle();
+      desktop_.user().settle();
       form.Unload();
     };
     component_->jShowNewLiqui();

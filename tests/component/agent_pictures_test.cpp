@@ -68,7 +68,7 @@ struct World {
     desktop.onMessage = [this](const screen::MessageBox& box) {
       messages.push_back("[" + std::to_string(box.style) + "] " + box.title + " | " + box.text);
       EXPECT_TRUE(left().empty()) << "while the box is on screen";
-      return scripts::Reply<screen::Answer>{box.defaultAnswer()};
+      return box.defaultAnswer();
     };
     component->MyBd(std::make_shared<plindor::BaseDatos>(connection));
     sql("INSERT INTO AGE (AGE_ID,AGE_NOM) VALUES (7,'Ana')");

@@ -45,7 +45,7 @@ ScreenWorld::ScreenWorld()
     } else if (box.yesNo()) {
       answer = otherwise.value_or(answer);
     }
-    return scripts::Reply<screen::Answer>{answer};
+    return answer;
   };
   desktop.whileShown = [this](screen::Form&) { users_.back()(); };
   component_->MyBd(std::make_shared<plindor::BaseDatos>(connection));
@@ -65,9 +65,7 @@ void ScreenWorld::play(screen::Form& form, const std::function<void()>& user) {
 }
 
 void ScreenWorld::chooseFromLists(std::size_t row) {
-  desktop.onList = [row](const screen::ListDialog&) {
-    return scripts::Reply<std::optional<std::size_t>>{row};
-  };
+  desktop.onList = [row](const screen::ListDialog&) { return std::optional<std::size_t>(row); };
 }
 
 }  // namespace korvantes::support

@@ -24,6 +24,7 @@ struct OpenScreen {
   scripts::HeadlessDesktop& desktop;
   Form& form;
 
+  scripts::User& user() const { return desktop.user(); }
   template <class T = screen::Control>
   T& control(const std::string& identity) const {
     screen::Control* found = form.findControl(identity);
@@ -31,25 +32,25 @@ struct OpenScreen {
     return dynamic_cast<T&>(*found);
   }
   void go(const std::string& identity) const {
-    desktop.user().moveFocus(control(identity));
-    desktop.user().settle();
+    user().moveFocus(control(identity));
+    user().settle();
   }
   void click(const std::string& identity) const {
-    desktop.user().click(control(identity));
-    desktop.user().settle();
+    user().click(control(identity));
+    user().settle();
   }
-  void press(std::string_view key) const { desktop.user().stroke(*scripts::keyNamed(key)); }
+  void press(std::string_view key) const { user().stroke(*scripts::keyNamed(key)); }
   /// Goes to the box, empties it and types or pastes the text.
   void typeInto(const std::string& box, std::string_view text) const {
     go(box);
-    desktop.user().clearText();
-    desktop.user().type(text);
+    user().clearText();
+    user().type(text);
   }
   void pasteInto(const std::string& box, std::string_view text) const {
     go(box);
-    desktop.user().clearText();
-    desktop.user().paste(text);
-    desktop.user().settle();
+    user().clearText();
+    user().paste(text);
+    user().settle();
   }
 };
 
