@@ -33,7 +33,7 @@ TEST(Factory, GivesALoadingHostAnObjectThatOutlivesItsReference) {
   const std::weak_ptr<KORVAN> first = *handle;
   release(handle);
   EXPECT_FALSE(first.expired());
-  // A second object takes the module over, and the first one has no owner left.
+  // A second object replaces the first one, which then has no owner.
   release(create());
   EXPECT_TRUE(first.expired());
   release(nullptr);

@@ -49,7 +49,7 @@ TEST(SettlementOutsideObjects, GetTheStoredSettlementToPrintAndTheListToExport) 
   EXPECT_THAT(world.messages, IsEmpty());
 }
 
-TEST(SettlementOutsideObjects, AFailureIsToldAndLeavesTheScreenUsable) {
+TEST(SettlementOutsideObjects, AFailureShowsAMessageAndLeavesTheScreenUsable) {
   const auto missing = [](const std::string& name) {
     return "No hay ningún componente registrado con el nombre «" + name + "»";
   };
