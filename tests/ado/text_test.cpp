@@ -42,7 +42,7 @@ TEST(TextOrderTest, AccentsDecideOnlyBetweenEqualLettersCaseAndTrailingBlanksNev
   EXPECT_GT(compareTexts("\u0301", "z"), 0);
 }
 
-TEST(TextOrderTest, NamesFoldAsciiLettersAlone) {
+TEST(TextOrderTest, NamesIgnoreTheCaseOfAsciiLettersOnly) {
   EXPECT_TRUE(sameName("Lca_ID", "lca_id"));
   EXPECT_FALSE(sameName("Lca_Id", "Lca_Id "));
   EXPECT_FALSE(sameName("Ñ", "ñ"));

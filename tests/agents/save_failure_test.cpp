@@ -23,7 +23,7 @@ void sweepSaves(const std::function<void(Screen&)>& enter, const std::vector<std
       ASSERT_EQ(world.messages.size(), fault.met() ? 2U : 1U);
       if (!fault.met()) return;
       EXPECT_THAT(world.messages[1], HasSubstr(Fault::kWords));
-      // A picture that cannot be read is told by itself, and the save goes on to its end.
+      // A picture that cannot be read has a message of its own, and the save is completed.
       if (!world.messages[1].starts_with("[16]")) return;
       EXPECT_THAT(world.messages[1], StartsWith("[16]  | "));
       if (world.stored() != before && entered[0].empty()) entered[0] = "9";

@@ -40,7 +40,7 @@ TEST(AgentsTwoUsers, WhatTheTableHoldsDecidesBetweenChangingAndAdding) {
   });
 }
 
-TEST(AgentsTwoUsers, AnAgentThatGoesBeforeTheListIsReadLeavesNoCursorOnIt) {
+TEST(AgentsTwoUsers, AnAgentDeletedBeforeTheListIsReadIsNotTheCurrentOne) {
   for (const bool others : {true, false}) {
     World world;
     world.show([&](Screen& screen) {
@@ -71,7 +71,7 @@ TEST(AgentsTwoUsers, TheSecondOfTwoWhoAddAtOnceGetsANumberOfItsOwnAtTheNextClick
     screen.type(1, "Mío");
     const auto entered = screen.contents();
 
-    // The other one holds the database.
+    // The other user has locked the database.
     sqlite::SqliteConnection other(world.path(), sqlite::OpenOptions{});
     other.BeginTrans();
     other.Execute("select isnull(max(age_id),0) +1 from age");
@@ -80,7 +80,7 @@ TEST(AgentsTwoUsers, TheSecondOfTwoWhoAddAtOnceGetsANumberOfItsOwnAtTheNextClick
     EXPECT_EQ(screen.contents(), entered);
     other.RollbackTrans();
 
-    // The number is taken when the row arrives, as on a server that locks rows alone.
+    // The number is already used when the row arrives, as on a server that only locks rows.
     world.connection->onCall = [&](std::string_view statement) {
       if (statement.starts_with("INSERT INTO AGE")) world.sql(kOtherAgent);
     };

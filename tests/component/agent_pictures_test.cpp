@@ -31,7 +31,7 @@ screen::Picture picture(std::string_view beginning, std::size_t bytes = 400) {
 constexpr std::string_view kBmp("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x40\1\0\0\xF0\0\0\0", 26);
 constexpr std::string_view kGif("GIF89a\x40\1\xF0\0", 10);
 
-/// A desktop whose picture files may turn out bad.
+/// A desktop whose picture files can fail.
 struct Stage : scripts::HeadlessDesktop {
   std::function<void(const std::string&)> beforeSave, beforeLoad;
   bool loadsNothing = false;
@@ -96,7 +96,7 @@ struct World {
     const screen::Picture found = shown();
     return expected.empty() ? found.empty() : !found.empty() && found.file() == expected.file();
   }
-  /// Files left behind.
+  /// The temporary files that still exist.
   std::vector<std::string> left() const {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(place.file("")))
@@ -155,7 +155,7 @@ TEST_F(AgentPictures, PassThroughFilesThatNobodyElseSees) {
   EXPECT_NE(folders[0], folders[1]);
   EXPECT_THAT(folders, testing::Each(StartsWith(place.file(""))));
 
-  // Places where others could exchange the folder, or that are none, are passed over.
+  // Folders where others could replace files, and paths that are not folders, are not used.
   const support::TemporaryFolder open;
   std::filesystem::permissions(open.file(""), std::filesystem::perms::all);
   for (const std::string& bad : {open.file(""), open.file("no hay"), std::string("aqui")}) {

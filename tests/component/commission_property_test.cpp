@@ -79,7 +79,7 @@ class Generator {
       case 2:  // half a cent in the amount itself
         units = units - units % 100 + 50;
         break;
-      case 3:  // a hair below half a cent at 10 percent: to money first makes it the half
+      case 3:  // just below half a cent at 10 percent: rounded to money first it is half
         units = units - units % 1000 + oneOf({496, 504, 495, 505});
         break;
       default:
@@ -106,7 +106,7 @@ data::OptionalDecimal decimal(std::optional<std::int64_t> units, int scale) {
 }
 
 /// Stores the documents both as delivery notes and as orders, numbered from 1. One row at a time:
-/// the statements differ in their literals alone, so that each is compiled once.
+/// the statements only differ in their literals, so that each is compiled once.
 void store(ado::Connection& connection, const std::vector<Document>& documents) {
   connection.BeginTrans();
   int line = 0;

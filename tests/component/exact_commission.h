@@ -1,4 +1,4 @@
-// The commission worked out a second time, by whole numbers alone: what the statements must give.
+// The commission computed a second time, with whole numbers only: what the statements must return.
 #pragma once
 
 #include <cstdint>

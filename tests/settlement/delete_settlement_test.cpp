@@ -58,7 +58,7 @@ TEST(SettlementDeletion, WhateverCallFailsAllOrNothingIsDeleted) {
   });
 }
 
-TEST(SettlementDeletion, OneThatAnotherUserHasReplacedOrDeletedIsToldApart) {
+TEST(SettlementDeletion, OfOneThatAnotherUserHasReplacedOrDeletedIsRefused) {
   for (bool replaced : {true, false}) {
     World world;
     const int number = world.settle({1});

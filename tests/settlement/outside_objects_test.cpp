@@ -47,7 +47,7 @@ TEST(SettlementOutsideObjects, GetTheStoredSettlementToPrintAndTheListToExport) 
   EXPECT_EQ(world.messages.size(), 1U) << "of the removal";
 }
 
-TEST(SettlementOutsideObjects, AFailureIsToldAndLeavesTheScreenUsable) {
+TEST(SettlementOutsideObjects, AFailureShowsAMessageAndLeavesTheScreenUsable) {
   const auto missing = [](const std::string& name) {
     return "No hay ningún componente registrado con el nombre «" + name + "»";
   };

@@ -17,8 +17,8 @@ using support::Fault;
 using support::rowsOf;
 using support::sweep;
 
-/// Saves with a failing call. A failed save is told, stores nothing and leaves the screen as it
-/// was; the next click saves once.
+/// Saves with a failing call. A failed save shows a message, stores nothing and leaves the screen
+/// as it was; the next click saves once.
 void save(World& world, Screen& screen, Fault& fault) {
   const auto before = world.stored();
   const auto entered = screen.contents();

@@ -40,7 +40,7 @@ class World : public support::ScreenWorld {
   void show(const std::function<void(Screen&)>& user, int nLiqui = 0);
   /// Every row of every table that a settlement touches.
   std::vector<std::string> stored();
-  /// Saves the notes as a settlement of agent 5, through the screen; gives its number.
+  /// Saves the notes as a settlement of agent 5, through the screen, and returns its number.
   int settle(const std::vector<int>& notes);
 };
 

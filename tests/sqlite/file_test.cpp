@@ -43,7 +43,7 @@ TEST_F(SqliteFileTest, BothFilesAreForTheirOwnerOnly) {
   }
 }
 
-TEST_F(SqliteFileTest, AFileBringsItsTypesWhenItIsOpenedAgain) {
+TEST_F(SqliteFileTest, TypesAreKnownWhenTheFileIsOpenedAgain) {
   {
     SqliteConnection connection(path_, kCreate);
     makeTables(connection);
@@ -55,7 +55,7 @@ TEST_F(SqliteFileTest, AFileBringsItsTypesWhenItIsOpenedAgain) {
   EXPECT_THROW(connection.Execute("create table AGE (Age_Id int null)"), ado::Error);
 }
 
-TEST_F(SqliteFileTest, WhatIsMissingIsNotMadeUnlessAsked) {
+TEST_F(SqliteFileTest, AMissingFileIsOnlyCreatedOnRequest) {
   refuse(path_);
   EXPECT_FALSE(fs::exists(path_));
   refuse(folder_.file("no/hay/empresa.db"), kCreate);
@@ -72,7 +72,7 @@ TEST_F(SqliteFileTest, WithoutItsPartnerTheCompanysTablesStillWork) {
   EXPECT_FALSE(fs::exists(path_ + ".vespara"));
 }
 
-TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
+TEST_F(SqliteFileTest, ALinkInsteadOfAFileIsRefused) {
   std::ofstream(folder_.file("ajeno")).flush();
   fs::create_symlink("ajeno", path_);
   refuse(path_, kCreate);
@@ -81,7 +81,7 @@ TEST_F(SqliteFileTest, ALinkInThePlaceOfAFileIsRefused) {
   fs::create_symlink("ajeno", path_ + ".vespara");
   refuse(path_, kCreate);
   EXPECT_EQ(fs::file_size(folder_.file("ajeno")), 0U);
-  // A link to the folder is how the user arranges folders.
+  // A link on the way to the file is allowed.
   fs::create_directory(folder_.file("datos"));
   fs::create_directory_symlink("datos", folder_.file("enlace"));
   SqliteConnection(folder_.file("enlace/empresa.db"), kCreate);
@@ -106,7 +106,7 @@ TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {
   EXPECT_EQ(rowsOf(connection.Execute("select Cav_Id from Cav")), std::vector<std::string>{"1"});
 }
 
-TEST_F(SqliteFileTest, WhatIsNoDatabaseIsLeftAsItIs) {
+TEST_F(SqliteFileTest, AFileThatIsNotADatabaseIsLeftUnchanged) {
   std::ofstream(path_) << std::string(5000, 'x');
   refuse(path_);
   EXPECT_EQ(fs::file_size(path_), 5000U);

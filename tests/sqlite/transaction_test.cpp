@@ -30,7 +30,7 @@ TEST_F(TransactionTest, AFailedStatementIsUndoneAndTheTransactionGoesOn) {
   note(1);
   connection_->BeginTrans();
   note(2);
-  failure("update Cav set Cav_Id = 9");  // the second row meets the first
+  failure("update Cav set Cav_Id = 9");  // the second row has the first one's key
   EXPECT_EQ(rows("select Cav_Id from Cav order by Cav_Id"), (std::vector<std::string>{"1", "2"}));
   failure("select * from NoHay");
   failure("no es sql");
@@ -57,7 +57,7 @@ TEST_F(TransactionTest, ASecondUserReadsTheOldStateAndWaitsToWrite) {
   EXPECT_EQ(notes(), "2");
 }
 
-TEST_F(TransactionTest, AConnectionThatEndsTakesItsOpenTransactionWithIt) {
+TEST_F(TransactionTest, ClosingAConnectionRollsItsTransactionBack) {
   {
     const auto other = connect();
     other->BeginTrans();
