@@ -79,7 +79,8 @@ class CreateBaseTest : public testing::Test {
   }
   void takeWhole() {
     remove();
-    for (const char* part : {"", ".vespara"}) fs::copy_file(folder_.file("entera.db") + part, path_ + part);
+    for (const char* part : {"", ".vespara"})
+      fs::copy_file(folder_.file("entera.db") + part, path_ + part);
   }
   void remove() {
     for (const char* part : {"", "-wal", "-shm", ".vespara", ".vespara-wal", ".vespara-shm"})

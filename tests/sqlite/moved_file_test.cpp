@@ -42,8 +42,8 @@ class MovedFileTest : public EngineTest {
 };
 
 TEST_F(MovedFileTest, NothingIsWrittenUntilTheFileIsBackInItsPlace) {
-  for (const char* name : {"empresa.db", "empresa.db.vespara", "empresa.db-wal",
-                           "empresa.db.vespara-wal"}) {
+  for (const char* name :
+       {"empresa.db", "empresa.db.vespara", "empresa.db-wal", "empresa.db.vespara-wal"}) {
     for (const bool replaced : {false, true}) {
       SCOPED_TRACE(name);
       fs::rename(path(name), path("apartado"));
