@@ -5,7 +5,7 @@ namespace korvantes {
 
 namespace {
 
-/// Keeps a form from taking input, until it goes.
+/// Disables a form for as long as the object lives.
 class Inhabilitado {
  public:
   explicit Inhabilitado(screen::Form& form) : form_(form) { form_.Enabled = false; }

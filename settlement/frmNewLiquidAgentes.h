@@ -1,18 +1,15 @@
 // settlement: the screen on which one settlement of commissions is made, changed, deleted and
-// printed. Each procedure stands in a file of its own, named after it; positions, captions and
-// colours stand in frmNewLiquidAgentes_layout.cpp.
+// printed. Each procedure is in a file of its own, named after it; positions, captions and colours
+// are in frmNewLiquidAgentes_layout.cpp. What needs no screen is in data/.
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 
-#include "outside/plindor/base_datos.h"
-#include "outside/plindor/util_formulario.h"
+#include "component/search_form.h"
+#include "data/settlement_draft.h"
 #include "runtime/ado/recordset.h"
-#include "runtime/screen/form.h"
 
 namespace korvantes {
 
@@ -21,28 +18,33 @@ namespace korvantes {
 /// Whoever opens it sets nLiqui, then calls Show. The screen is in one of three states, which
 /// follow from nLiqui and from the frames that are enabled: agent entry (fraAgente enabled),
 /// selection (a search filled the list), existing settlement (nLiqui names a stored one).
-class frmNewLiquidAgentes : public screen::Form {
+class frmNewLiquidAgentes : public SearchForm {
  public:
   frmNewLiquidAgentes();
 
   /// Lca_Id of the settlement on screen, 0 for a new one. A save that ends well sets it to 0.
   std::int32_t nLiqui = 0;
 
-  /// Puts the settlement nLiqui on the screen. True when it was found; with nLiqui 0, or a
-  /// settlement that is no longer there, the screen stays empty and the result is False. Errors of
-  /// the connection travel on.
+  /// Puts the settlement nLiqui on the screen. True if it was found; with nLiqui 0, or for a
+  /// settlement that cannot be shown, which the user is told, the screen stays empty and the result
+  /// is False. Errors of the connection pass through.
   bool msCargaLiquidacion();
 
   void Form_Load() override;
-  void Form_KeyUp(int& keyCode, int shift) override;
 
  private:
+  // Indexes of Text1 after the agent's code and name.
+  static constexpr int kFecha = 2, kPorIva = 3, kHastaFecha = 4, kObservaciones = 7, kTotal = 8;
+  static constexpr int kIva = 9, kBase = 10, kPorRetencion = 11, kRetencion = 12;
+  // Columns of ListView1.
+  static constexpr std::size_t kColAlbaran = 3, kColComision = 6;
+  /// nRegimen until the regime of the agent in Text1(0) has been read.
+  static constexpr std::int32_t kRegimenSinLeer = -1;
+
   void layOut();
   void wire();
 
-  void Text1_GotFocus(int index);
-  void Text1_LostFocus(int index);
-  void Text1_KeyPress(int index, int& character);
+  void Text1_LostFocus(int index) override;
   void cmbBuscarFacturas_Click();
   void cmdSelTodo_Click();
   void cmdCancelar_Click();
@@ -57,49 +59,56 @@ class frmNewLiquidAgentes : public screen::Form {
 
   /// Looks an agent up; 0 asks the user. Gives back the code chosen, 0 for none.
   void msBuscarAgente(std::int32_t& nAgente);
+  /// Puts the rates in force on the settlement date on the screen. If they cannot be read, the
+  /// boxes stay empty, sFalloTasas says why, and the error passes through.
   void msCargaIva();
-  void msCargaRegimen();
   void msBuscarFacturas();
   void msCalculaTotales();
   void msGrabarLiquidacion();
 
-  void cargaDetalle(ado::Connection& conexion, const std::string& sLiqui);
+  void buscaPorNombre() override;
+  void olvidaAgente() override;
+  void cargaCabecera(const ado::Recordset& rsLca);
+  void cargaDetalle(ado::Connection& conexion);
 
-  /// The code that a text of nothing but digits stands for; nothing when it is anything else or no
-  /// Long.
-  static std::optional<std::int32_t> codigoDe(std::string_view texto);
-  /// Says that the code in Text1(0) is none, drops the agent found before, and gives the focus to
-  /// the box.
-  void avisaCodigoNoValido();
-  /// Number in a box, under the regional settings; an empty box counts as 0.
-  double numeroEn(int index) const;
+  /// Number in a box, exact, under the regional settings; an empty box counts as 0. Throws
+  /// ado::ConversionError for any other text.
+  ado::Decimal exactoEn(int index) const;
+  /// Writes an amount into a box, in the general form.
+  void muestra(int index, const ado::Decimal& importe);
   bool hayMarcadas() const;
-  /// The checks before a save, in their order. False when one has ended it.
-  bool compruebaLiquidacion();
-  bool confirmaAgente();
-  bool confirmaAlbaranesOcultos();
-  /// Steps of a save inside its transaction. Give the new settlement's number.
-  std::int32_t escribeLiquidacion(plindor::BaseDatos& oDb);
-  void borraLiquidacionAnterior(ado::Connection& conexion);
-  void insertaCabecera(plindor::BaseDatos& oDb);
-  void insertaDetalle(plindor::BaseDatos& oDb, std::int32_t nNueva,
-                      const screen::ListView::ListItem& fila);
+
+  /// What the checks before a save say: whether to go on, and whether the user agreed that the
+  /// stored settlement is removed.
+  struct Comprobacion {
+    bool bSigue = false;
+    bool bEliminar = false;
+  };
+  Comprobacion compruebaLiquidacion();
+  data::SettlementDraft liquidacionEnPantalla() const;
+  /// What a save did.
+  struct Guardado {
+    std::int32_t nAnterior;  ///< nLiqui before it
+    std::int32_t nNueva;     ///< 0 if nothing was written
+    bool bNoMostrada;        ///< nAnterior could not be shown, and was left alone
+    bool bEliminar;          ///< the user agreed that nAnterior is removed
+  };
+  /// Prints the new settlement if that is wanted, and says what was done.
+  void anunciaGuardado(const Guardado& guardado);
   void imprimeLiquidacion(std::int32_t nNueva);
-  /// The three statements of a deletion, inside its transaction. Throws when one fails, or when
-  /// there was nothing left to delete.
-  void borraLiquidacion(plindor::BaseDatos& oDb);
   /// Shows the report of a stored settlement and returns when it is closed. Throws what the report
   /// object throws.
   static void muestraInforme(std::int32_t nLiquidacion);
 
-  std::unique_ptr<plindor::UtilFormulario> oUtil;
-  std::int32_t nIdAgente = 0;  ///< found by the last agent lookup, 0 for none
-  std::int32_t nRegimen = 0;   ///< fiscal regime of the agent found
-  std::int32_t nIdTiva = 0;    ///< row of the rates on screen
+  std::int32_t nRegimen = 0;  ///< tax regime of the agent found
+  std::int32_t nIdTiva = 0;   ///< row of the rates on screen
   /// Agent whose delivery notes are listed; the code on screen can change later through F1.
   std::int32_t nAgenteLista = 0;
   bool bCargada = false;  ///< a stored settlement was put on the screen
-  std::string sTituloForm;
+  /// Why the rates on screen are unknown; empty after a lookup that went well.
+  std::string sFalloTasas;
+  /// Why the amounts on screen are unknown; empty after a computation that went well.
+  std::string sFalloImportes;
   ado::Recordset rsAlb;
   bool bOrdenLista = false;
 

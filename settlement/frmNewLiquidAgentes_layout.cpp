@@ -1,4 +1,4 @@
-// Where everything stands on the settlement screen, and what it looks like. Twips.
+// Positions (in twips), captions and colours of the settlement screen.
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {
@@ -25,7 +25,7 @@ struct LabelRow {
   int tabIndex;
 };
 
-// Each stands above its field.
+// Each is above its field.
 constexpr LabelRow kAgentLabels[] = {
     {1, "Codigo", {120, 240, 855, 195}, 8},
     {2, "Nombre (F1 Busqueda alfabetica)", {1080, 240, 5175, 195}, 9},

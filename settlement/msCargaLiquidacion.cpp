@@ -1,33 +1,12 @@
 #include "component/mdoKORVANTES.h"
-#include "data/money_rule_sql.h"
+#include "data/listed_notes.h"
+#include "data/stored_settlement.h"
 #include "runtime/screen/conversions.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {
 
 namespace {
-
-constexpr const char* kSelectCabecera =
-    "SELECT lca.*,Age_Nom FROM Lca INNER JOIN Age ON Age_Id = Lca_Idag WHERE Lca_ID = ";
-
-constexpr const char* kSelectDetalle =
-    "SELECT Cav_Id,Cav_NFiscal,Fav_Serie,Fav_Numero,Fav_Fecha, (Cav_Serie + '/' + cast(Cav_Numero "
-    "as varchar(5))) as Albaran,";
-constexpr const char* kImporte = "FROM laV where laV_Idcav= cav_id) as importe ";
-constexpr const char* kFrom = "FROM lcd ";
-constexpr const char* kJoinCav = "INNER JOIN Cav ON Cav_Id = Lcd_IdCav ";
-constexpr const char* kJoinFav = "INNER JOIN Fav ON Fav_Id = Cav_IdFactura ";
-constexpr const char* kJoinCli = "INNER JOIN Cli ON Cli_Id = Fav_IdCli ";
-constexpr const char* kWhereDetalle = "WHERE Lcd_IdLca = ";
-
-struct Campo {
-  const char* columna;
-  int caja;
-};
-constexpr Campo kAgente[] = {{"lca_idag", 0}, {"age_Nom", 1}};
-constexpr Campo kImportes[] = {{"lca_obs", 7},  {"lca_base", 10},         {"lca_poriva", 3},
-                               {"lca_iva", 9},  {"lca_porretencion", 11}, {"lca_retencion", 12},
-                               {"lca_total", 8}};
 
 int marca(const ado::Variant& valor) {
   return !valor.isNull() && valor.asBoolean() ? 1 : 0;
@@ -41,27 +20,13 @@ bool frmNewLiquidAgentes::msCargaLiquidacion() {
   if (nLiqui == 0) return false;
 
   ado::Connection& conexion = mdoKORVANTES::Conexion();
-  const std::string sLiqui = std::to_string(nLiqui);
-  const ado::Recordset rsLca = conexion.Execute(kSelectCabecera + sLiqui);
-  if (rsLca.RecordCount() < 1) return false;
-
-  // A Null shows as an empty text.
-  const auto muestra = [&](const Campo& campo) {
-    Text1(campo.caja).Text = screen::CStr(rsLca.Collect(campo.columna));
-  };
-  for (const Campo& campo : kAgente) muestra(campo);
-  muestra({"lca_fecha", 2});
-  Check1.Value = marca(rsLca.Collect("lca_Cob"));
-  Check2.Value = marca(rsLca.Collect("lca_nCob"));
-  muestra({"lca_hfecha", 4});
-  for (const Campo& campo : kImportes) muestra(campo);
-
-  nAgenteLista = rsLca.Collect("lca_idag").asLong();
-  // Kept for the next save unless a lookup of rates replaces it.
-  const ado::Variant& tiva = rsLca.Collect("Lca_IdTiva");
-  nIdTiva = tiva.isNull() ? 0 : tiva.asLong();
-
-  cargaDetalle(conexion, sLiqui);
+  const ado::Recordset rsLca = data::storedSettlement(conexion, nLiqui);
+  if (rsLca.RecordCount() < 1) {
+    avisa(data::whyNotFound(conexion, nLiqui), screen::style::Exclamation, sTituloForm);
+    return false;
+  }
+  cargaCabecera(rsLca);
+  cargaDetalle(conexion);
 
   fraAgente.Enabled = false;
   cmdGrabar.Enabled = true;
@@ -73,15 +38,37 @@ bool frmNewLiquidAgentes::msCargaLiquidacion() {
   return true;
 }
 
-void frmNewLiquidAgentes::cargaDetalle(ado::Connection& conexion, const std::string& sLiqui) {
-  rsAlb =
-      conexion.Execute(std::string(kSelectDetalle) + std::string(data::sql::kNoteNet) + kImporte +
-                       kFrom + kJoinCav + kJoinFav + kJoinCli + kWhereDetalle + sLiqui);
+void frmNewLiquidAgentes::cargaCabecera(const ado::Recordset& rsLca) {
+  // A Null shows as an empty text.
+  const auto carga = [&](const char* columna, int caja) {
+    Text1(caja).Text = screen::CStr(rsLca.Collect(columna));
+  };
+  carga("lca_idag", kCodigo);
+  carga("age_Nom", kNombre);
+  carga("lca_fecha", kFecha);
+  Check1.Value = marca(rsLca.Collect("lca_Cob"));
+  Check2.Value = marca(rsLca.Collect("lca_nCob"));
+  carga("lca_hfecha", kHastaFecha);
+  carga("lca_obs", kObservaciones);
+  carga("lca_base", kBase);
+  carga("lca_poriva", kPorIva);
+  carga("lca_iva", kIva);
+  carga("lca_porretencion", kPorRetencion);
+  carga("lca_retencion", kRetencion);
+  carga("lca_total", kTotal);
+
+  nAgenteLista = rsLca.Collect("lca_idag").asLong();
+  // Kept for the next save unless a lookup of rates replaces it.
+  const ado::Variant& tiva = rsLca.Collect("Lca_IdTiva");
+  nIdTiva = tiva.isNull() ? 0 : tiva.asLong();
+}
+
+void frmNewLiquidAgentes::cargaDetalle(ado::Connection& conexion) {
+  rsAlb = conexion.Execute(data::settledStatement(nLiqui));
   for (; !rsAlb.isEOF(); rsAlb.MoveNext()) {
-    const std::int32_t nIdCav = rsAlb.Collect("Cav_Id").asLong();
-    const double dComision = mdoKORVANTES::oComponente()->msComisionAgente(3, nIdCav, 0);
-    const ado::Variant& importe = rsAlb.Collect("Importe");
-    const double dNeto = oUtil->Redondea(importe.isNull() ? 0.0 : importe.asDouble(), 2);
+    const data::ListedNote albaran = data::listedNote(conexion, rsAlb);
+    const double dNeto = albaran.amount.toDouble();
+    const double dComision = albaran.commission.toDouble();
     const double dPorcentaje =
         dNeto == 0 ? 0.0 : oUtil->Redondea(oUtil->Redondea(dComision * 100, 2) / dNeto, 2);
     const std::string sSerie = screen::CStr(rsAlb.Collect("Fav_Serie"));
@@ -91,10 +78,10 @@ void frmNewLiquidAgentes::cargaDetalle(ado::Connection& conexion, const std::str
     fila.SubItems = {screen::Format(rsAlb.Collect("fav_fecha"), "dd/mm/yyyy"),
                      screen::CStr(rsAlb.Collect("Cav_NFiscal")),
                      screen::CStr(rsAlb.Collect("Albaran")),
-                     screen::Format(dNeto, "0.00"),
+                     screen::Format(albaran.amount, "0.00"),
                      screen::Format(dPorcentaje, "##0.00"),
-                     screen::Format(oUtil->Redondea(dComision, 2), "0.00")};
-    fila.Tag = std::to_string(nIdCav);
+                     screen::Format(albaran.commission, "0.00")};
+    fila.Tag = std::to_string(albaran.id);
     fila.Checked = true;
   }
 }

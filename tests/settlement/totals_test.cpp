@@ -5,8 +5,10 @@
 namespace korvantes::settlement {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 /// Makes the notes of agent 6 (regime 1) carry these commissions, one line each.
-void giveCommissions(World& world, const std::vector<std::string>& amounts) {
+void giveCommissions(World& world, const Texts& amounts) {
   int id = 100;
   for (const std::string& amount : amounts) {
     const std::string note = std::to_string(++id);
@@ -33,7 +35,7 @@ TEST(SettlementTotals, ComeFromTheTickedCommissionsAndTheRatesOnScreen) {
   struct Case {
     const char* what;
     const char* regional;
-    std::vector<std::string> commissions;
+    Texts commissions;
     const char *vatRate, *withholdingRate;
     Totals expected;
   };
@@ -47,6 +49,15 @@ TEST(SettlementTotals, ComeFromTheTickedCommissionsAndTheRatesOnScreen) {
       {"noise in the total", "es-ES", {"0.70", "0.10"}, "25", "37.5", {"0,8", "0,2", "0,3", "0,7"}},
       {"half cents away from zero", "es-ES", {"1"}, "0.5", "1.5", {"1", "0,01", "0,02", "0,99"}},
       {"half a cent below", "es-ES", {"-1"}, "0.5", "0", {"-1", "-0,01", "0", "-1,01"}},
+      {"cents of many", "es-ES", Texts(45, "0.90"), "21", "15", {"40,5", "8,51", "6,08", "42,93"}},
+      {"whole cents", "es-ES", Texts(41, "1.30"), "0", "15", {"53,3", "0", "8", "45,3"}},
+      {"no noise", "es-ES", Texts(100, "0.10"), "0", "0", {"10", "0", "0", "10"}},
+      {"almost cancelling",
+       "es-ES",
+       {"1000.12", "-1000.21"},
+       "0",
+       "0",
+       {"-0,09", "0", "0", "-0,09"}},
       {"thousands", "es-ES", {"1234567.89"}, "0", "0", {"1234567,89", "0", "0", "1234567,89"}},
   };
   for (const Case& each : cases) {
@@ -69,6 +80,40 @@ TEST(SettlementTotals, ComeFromTheTickedCommissionsAndTheRatesOnScreen) {
       EXPECT_EQ(shown(screen), (Totals{"0", "0", "0", "0"}));
     });
     EXPECT_THAT(world.messages, testing::IsEmpty());
+  }
+}
+
+TEST(SettlementTotals, ThatCannotBeComputedAreToldShownEmptyAndNotStored) {
+  struct Case {
+    const char *cell, *vatRate, *told;
+  };
+  const Case cases[] = {
+      {"", "21,00", "«» no es un número"},
+      {"12.50", "21,00", "«12.50» no es un número"},
+      {"90000000000000000,00", "0", "El número es demasiado grande para un importe exacto"},
+      {"99999999999999999999,00", "0", "«99999999999999999999,00» es un número demasiado grande"},
+      {"10,00", "veinte", "«veinte» no es un número"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.told);
+    World world;
+    world.show([&](Screen& screen) {
+      screen.makeOut({3});
+      screen.text(3).Text = each.vatRate;
+      screen.list().Clear();
+      for (const char* note : {"1", "3"}) {
+        auto& row = screen.list().Add("");
+        row.SubItems = {"", "", "", "", "", each.cell};
+        row.Tag = note;
+      }
+      screen.click("cmdSelTodo");
+      EXPECT_EQ(world.messages.back(),
+                std::string("[16] Liquidacion de comisiones a Agentes | ") + each.told);
+      EXPECT_EQ(screen.text(8).Text(), "");
+      screen.click("cmdGrabar");
+      EXPECT_THAT(world.messages.back(), testing::HasSubstr(each.told));
+    });
+    EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
   }
 }
 
