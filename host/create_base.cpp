@@ -71,9 +71,10 @@ bool isIncomplete(const Database& base, BaseContents contents) {
   if (contents == BaseContents::EmptyTables || hasNone(base, kCompany)) return lacksTables;
   const bool sample = holdsSample(base);
   if (lacksTables && !sample)
-    throw Failure("a la base " + inQuotes(base.name) +
-                  " le faltan tablas, pero tiene datos que no son los de muestra; no se ha cambiado "
-                  "nada");
+    throw Failure(
+        "a la base " + inQuotes(base.name) +
+        " le faltan tablas, pero tiene datos que no son los de muestra; no se ha cambiado "
+        "nada");
   return sample && (lacksShared || sample::lacksSharedRows(*base.connection));
 }
 

@@ -53,7 +53,8 @@ Columns columnsIn(std::string_view words) {
     const auto dot = name.find('.');
     if (dot == std::string_view::npos) return {};
     columns.table = name.substr(0, dot);
-    columns.names += (columns.names.empty() ? "«" : ", «") + std::string(name.substr(dot + 1)) + "»";
+    columns.names +=
+        (columns.names.empty() ? "«" : ", «") + std::string(name.substr(dot + 1)) + "»";
     rest = comma == std::string_view::npos ? std::string_view() : rest.substr(comma + 2);
   }
   return columns;
@@ -67,8 +68,8 @@ ado::Error brokenConstraint(int code, const std::string& words, std::string_view
     case SQLITE_CONSTRAINT_PRIMARYKEY:
     case SQLITE_CONSTRAINT_ROWID:
       return {ErrorKind::Duplicate, code,
-              known ? "Ya existe en la tabla «" + columns.table + "» una fila con el mismo valor de " +
-                          columns.names
+              known ? "Ya existe en la tabla «" + columns.table +
+                          "» una fila con el mismo valor de " + columns.names
                     : "Ya existe una fila con esa clave",
               subject};
     case SQLITE_CONSTRAINT_NOTNULL:
@@ -84,8 +85,7 @@ ado::Error brokenConstraint(int code, const std::string& words, std::string_view
 
 }  // namespace
 
-ado::Error describe(int code, const std::string& words, int systemError,
-                    std::string_view subject) {
+ado::Error describe(int code, const std::string& words, int systemError, std::string_view subject) {
   const int primary = code & 0xFF;
   if (primary == SQLITE_CONSTRAINT) return brokenConstraint(code, words, subject);
   for (const Sentence& sentence : kSentences) {

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "engines/sqlite/sqlite_connection.h"
 #include "scripts/failure.h"
 #include "tests/support/faulty_connection.h"
 #include "tests/support/folder_contents.h"
@@ -79,7 +80,8 @@ class CreateBaseTest : public testing::Test {
   }
   void takeWhole() {
     remove();
-    for (const char* part : {"", ".vespara"}) fs::copy_file(folder_.file("entera.db") + part, path_ + part);
+    for (const char* part : {"", ".vespara"})
+      fs::copy_file(folder_.file("entera.db") + part, path_ + part);
   }
   void remove() {
     for (const char* part : {"", "-wal", "-shm", ".vespara", ".vespara-wal", ".vespara-shm"})
@@ -118,6 +120,10 @@ TEST_F(CreateBaseTest, ASecondCallCompletesWhatAKilledOneLeft) {
       int status = 0;
       ASSERT_EQ(::waitpid(child, &status, 0), child);
       ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+      // At no moment are there tables without rates.
+      if (sqlite::holdsTables(path_)) {
+        EXPECT_EQ(counts(path_)["Vespara.dbo.Tivas"], 20);
+      }
       demo();
       expectWhole();
     }

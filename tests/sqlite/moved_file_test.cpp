@@ -42,8 +42,8 @@ class MovedFileTest : public EngineTest {
 };
 
 TEST_F(MovedFileTest, NothingIsWrittenUntilTheFileIsBackInItsPlace) {
-  for (const char* name : {"empresa.db", "empresa.db.vespara", "empresa.db-wal",
-                           "empresa.db.vespara-wal"}) {
+  for (const char* name :
+       {"empresa.db", "empresa.db.vespara", "empresa.db-wal", "empresa.db.vespara-wal"}) {
     for (const bool replaced : {false, true}) {
       SCOPED_TRACE(name);
       fs::rename(path(name), path("apartado"));
@@ -61,6 +61,7 @@ TEST_F(MovedFileTest, ATransactionThatLosesItsFileIsNotCommitted) {
     connection_->BeginTrans();
     run("insert into Cav (Cav_Id) values (2)");
     fs::rename(path(name), path("apartado"));
+    EXPECT_EQ(kindOf([&] { run("delete from Cav"); }), ErrorKind::FileReplaced);
     EXPECT_EQ(kindOf([&] { connection_->CommitTrans(); }), ErrorKind::FileReplaced);
     EXPECT_TRUE(connection_->inTransaction());
     connection_->RollbackTrans();

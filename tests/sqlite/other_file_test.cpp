@@ -20,8 +20,9 @@ namespace fs = std::filesystem;
 const OpenOptions kCreate{true, 20};
 
 /// Makes a database as another program would. Left open until `meanwhile` returns.
-void makeForeign(const std::string& path, const char* statements,
-                 const std::function<void()>& meanwhile = [] {}) {
+void makeForeign(
+    const std::string& path, const char* statements,
+    const std::function<void()>& meanwhile = [] {}) {
   sqlite3* connection = nullptr;
   ASSERT_EQ(sqlite3_open(path.c_str(), &connection), SQLITE_OK);
   EXPECT_EQ(sqlite3_exec(connection, statements, nullptr, nullptr, nullptr), SQLITE_OK);
@@ -48,7 +49,8 @@ TEST_F(OtherFileTest, ADatabaseOfAnotherProgramIsRefusedWithoutATrace) {
       [&](const std::string& path) { makeForeign(path, kLogged); },
       [&](const std::string& path) {  // a program that was killed, its log full
         makeForeign(path, kLogged, [&] {
-          for (const char* part : {"", "-wal", "-shm"}) fs::copy_file(path + part, path + "x" + part);
+          for (const char* part : {"", "-wal", "-shm"})
+            fs::copy_file(path + part, path + "x" + part);
         });
         for (const char* part : {"", "-wal", "-shm"}) fs::rename(path + "x" + part, path + part);
       },
@@ -93,9 +95,8 @@ TEST_F(OtherFileTest, ABaseOfOursIsRecognisedWhateverItsLogHolds) {
 TEST_F(OtherFileTest, AMissingSharedFileIsNamedUntilItIsBack) {
   makeBase();
   fs::rename(partner_, folder_.file("apartado"));
-  const std::function<void()> states[] = {
-      [] {}, [&] { std::ofstream(partner_).flush(); },
-      [&] { makeForeign(partner_, "CREATE TABLE t (a)"); }};
+  const std::function<void()> states[] = {[] {}, [&] { std::ofstream(partner_).flush(); },
+                                          [&] { makeForeign(partner_, "CREATE TABLE t (a)"); }};
   const char* words[] = {"No se encuentra la base de datos compartida «empresa.db.vespara»",
                          "está vacía", "otro programa"};
   SqliteConnection connection(path_);
