@@ -73,8 +73,8 @@ bool isIncomplete(const Database& base, BaseContents contents) {
   if (lacksTables && !sample)
     throw Failure(
         "a la base " + inQuotes(base.name) +
-        " le faltan tablas, pero tiene datos que no son los de muestra; no se ha cambiado "
-        "nada");
+        " le faltan tablas, pero no es de muestra; no se ha cambiado nada (la orden crear las "
+        "crea vacías)");
   return sample && (lacksShared || sample::lacksSharedRows(*base.connection));
 }
 

@@ -166,6 +166,7 @@ void Transaction::begin() {
   // Immediate: a second user waits here, not in the middle of a save.
   database_->run("BEGIN IMMEDIATE");
   begun_ = true;
+  writes_ = 0;
 }
 
 void Transaction::commit() {
@@ -198,6 +199,14 @@ bool Transaction::isOpen() const {
   const bool open = database_->inTransaction();
   if (!open) begun_ = false;
   return open;
+}
+
+void Transaction::requireWritable(std::string_view subject) {
+  constexpr unsigned kFirstWrites = 8;
+  constexpr unsigned kStride = 32;
+  requireNotLost(subject);
+  if (database_->inTransaction() && ++writes_ > kFirstWrites && writes_ % kStride != 0) return;
+  database_->requireInPlace(subject);
 }
 
 void Transaction::requireNotLost(std::string_view subject) const {

@@ -64,7 +64,7 @@ class Database {
   Content content(const std::string& schema);
 
   /// Throws Error of kind FileReplaced if an open file, or its log, is no longer the one that its
-  /// path leads to: what is written then would be lost. To be called before every write.
+  /// path leads to: what is written then would be lost. Costs a system call for each.
   void requireInPlace(std::string_view subject) const;
 
   /// True while a transaction is open.
@@ -108,12 +108,17 @@ class Transaction {
   bool isOpen() const;
   /// Throws Error if the transaction was given up and the caller does not know yet.
   void requireNotLost(std::string_view subject) const;
+  /// To be called before every write. Throws Error as requireNotLost and Database::requireInPlace
+  /// do. Inside a transaction, where commit makes sure of the files before anything is stored, it
+  /// looks at them for the first writes and then now and then.
+  void requireWritable(std::string_view subject);
 
  private:
   bool isLost() const { return begun_ && !database_->inTransaction(); }
 
   Database* database_;
   mutable bool begun_ = false;
+  unsigned writes_ = 0;  ///< of the open transaction
 };
 
 }  // namespace korvantes::sqlite

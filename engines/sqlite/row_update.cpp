@@ -97,8 +97,7 @@ void RowUpdate::write(const std::vector<std::pair<std::string, ado::Variant>>& c
     throw ado::Error(ado::ErrorKind::ConnectionLost, kCannotUpdate,
                      "La conexión con la base de datos está cerrada");
   const std::string subject = "UPDATE " + table_.name;
-  session->transaction.requireNotLost(subject);
-  session->database.requireInPlace(subject);
+  session->transaction.requireWritable(subject);
 
   std::vector<tsql::StoredValue> values;
   std::string assignments;

@@ -103,7 +103,6 @@ struct SqliteConnection::Impl {
   tsql::BoundStatement compile(std::string_view text);
   ado::Error explained(const ado::Error& error, std::string_view text) const;
   Statement& prepared(const tsql::BoundStatement& bound, std::string_view text);
-  void requireWritable(std::string_view text) const { session->database.requireInPlace(text); }
   void define(tsql::BoundStatement bound, std::string_view text);
 
   std::shared_ptr<Session> session;
@@ -240,7 +239,7 @@ ado::Recordset SqliteConnection::Execute(std::string_view text, long long* rowsA
     case tsql::StatementKind::Insert:
     case tsql::StatementKind::Update:
     case tsql::StatementKind::Delete: {
-      impl_->requireWritable(text);
+      impl_->session->transaction.requireWritable(text);
       Statement& statement = impl_->prepared(bound, text);
       const Run run(statement);
       statement.step(text);
@@ -248,7 +247,7 @@ ado::Recordset SqliteConnection::Execute(std::string_view text, long long* rowsA
       return {};
     }
     default:
-      impl_->requireWritable(text);
+      impl_->session->transaction.requireWritable(text);
       impl_->define(bound, text);
       if (rowsAffected) *rowsAffected = 0;
       return {};

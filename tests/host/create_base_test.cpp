@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "engines/sqlite/sqlite_connection.h"
 #include "scripts/failure.h"
 #include "tests/support/faulty_connection.h"
 #include "tests/support/folder_contents.h"
@@ -119,6 +120,10 @@ TEST_F(CreateBaseTest, ASecondCallCompletesWhatAKilledOneLeft) {
       int status = 0;
       ASSERT_EQ(::waitpid(child, &status, 0), child);
       ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+      // At no moment are there tables without rates.
+      if (sqlite::holdsTables(path_)) {
+        EXPECT_EQ(counts(path_)["Vespara.dbo.Tivas"], 20);
+      }
       demo();
       expectWhole();
     }

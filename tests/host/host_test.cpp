@@ -58,6 +58,7 @@ class HostTest : public testing::Test {
 
 TEST_F(HostTest, RefusesWhatItCannotDoInOneLine) {
   write("texto.db", std::string(5000, 'x'));
+  write("vacio.db", "");
   fs::create_directory(path("carpeta"));
   ASSERT_EQ(run({"--base", url(), "demo"}).status, 0);
   const std::string base = url();
@@ -72,6 +73,7 @@ TEST_F(HostTest, RefusesWhatItCannotDoInOneLine) {
       {{"--base", base, "demo"}, "ya tiene tablas"},
       {{"--base", base, "demo", "x"}, "demo: sobra «x»"},
       {{"--base", url("no.db"), "sql"}, "no existe"},
+      {{"--base", url("vacio.db"), "sql"}, "está vacío (0 bytes)"},
       {{"--base", url("carpeta"), "crear"}, "no es un fichero"},
       {{"--base", url("texto.db"), "sql"}, "no es una base de datos"},
       {{"--base", url("no/hay.db"), "crear"}, "no existe la carpeta"},

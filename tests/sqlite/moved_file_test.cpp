@@ -61,6 +61,7 @@ TEST_F(MovedFileTest, ATransactionThatLosesItsFileIsNotCommitted) {
     connection_->BeginTrans();
     run("insert into Cav (Cav_Id) values (2)");
     fs::rename(path(name), path("apartado"));
+    EXPECT_EQ(kindOf([&] { run("delete from Cav"); }), ErrorKind::FileReplaced);
     EXPECT_EQ(kindOf([&] { connection_->CommitTrans(); }), ErrorKind::FileReplaced);
     EXPECT_TRUE(connection_->inTransaction());
     connection_->RollbackTrans();
