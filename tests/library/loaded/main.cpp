@@ -1,8 +1,7 @@
-#include "library/factory.h"
-
 #include <dlfcn.h>
 
 #include "../host.h"
+#include "library/factory.h"
 
 namespace {
 
