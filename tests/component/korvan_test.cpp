@@ -100,8 +100,8 @@ struct Office {
                                  ")");
   }
   std::shared_ptr<plindor::BaseDatos> service() {
-    const auto link = std::make_shared<support::ScreenLink>(base.connection());
-    link->onStatement = [this](std::string_view statement) { asked.emplace_back(statement); };
+    const auto link = std::make_shared<support::FaultyConnection>(base.connection());
+    link->onCall = [this](std::string_view statement) { asked.emplace_back(statement); };
     return std::make_shared<plindor::BaseDatos>(link);
   }
 
@@ -121,7 +121,7 @@ TEST_F(KorvanTest, AnOpenScreenKeepsTheServiceOfItsSearchDialogAndAsksTheNewOneF
       {[](KORVAN& component) { component.jShowInfLiqui(); }, "cmdBuscar", "Select Age_ID"},
   };
   desktop.onList = [](const screen::ListDialog&) {
-    return screen::HeadlessDesktop::Reply<std::optional<std::size_t>>{1};
+    return scripts::Reply<std::optional<std::size_t>>{1};
   };
   Office earlier, later;
   for (const Case& test : cases) {
@@ -132,7 +132,7 @@ TEST_F(KorvanTest, AnOpenScreenKeepsTheServiceOfItsSearchDialogAndAsksTheNewOneF
       earlier.asked.clear();
       later.asked.clear();
       component->MyBd(later.service());
-      desktop.stroke(*screen::keyNamed("F1"));
+      desktop.user().stroke(*scripts::keyNamed("F1"));
       if (test.button != nullptr) desktop.user().click(*form.findControl(test.button));
       EXPECT_THAT(earlier.asked, ElementsAre(HasSubstr(" ORDER BY "))) << form.name();
       ASSERT_THAT(later.asked, Not(IsEmpty())) << form.name();

@@ -13,13 +13,13 @@ constexpr const char* kWords = "la tabla de tasas no responde";
 
 /// Lookups of rates, or of the regime of a stored settlement's agent, fail from now on.
 void lose(World& world, const std::string& table) {
-  world.connection->onStatement = [table](std::string_view statement) {
+  world.connection->onCall = [table](std::string_view statement) {
     if (statement.find(table) != std::string_view::npos) throw ado::Error(7, kWords);
   };
 }
 
 void heal(World& world) {
-  world.connection->onStatement = nullptr;
+  world.connection->onCall = nullptr;
 }
 
 void expectUnknown(const Screen& screen, const char* base) {
