@@ -1,5 +1,7 @@
 #include "engines/sqlite/database.h"
 
+#include <chrono>
+#include <thread>
 #include <utility>
 
 #include "engines/sqlite/failure_words.h"
@@ -24,6 +26,7 @@ void Database::open(const std::string& name, int flags, int busyMilliseconds) {
   if (code != SQLITE_OK) throw failure(code, {});
   sqlite3_extended_result_codes(raw(), 1);
   sqlite3_busy_timeout(raw(), busyMilliseconds);
+  busyMilliseconds_ = busyMilliseconds;
 }
 
 Database::Database(const std::string& file, int busyMilliseconds) {
@@ -66,7 +69,7 @@ void Database::configure(const std::string& schema, const std::string& path) {
   // Once more, now that it is open for writing: before WAL mode changes the file.
   requireNotForeign(path, content(schema));
   constexpr const char* kCacheKibibytes = "-16384";
-  run("PRAGMA " + schema + ".journal_mode=WAL");
+  switchToLog(schema);
   run("PRAGMA " + schema + ".synchronous=FULL");
   run("PRAGMA " + schema + ".cache_size=" + kCacheKibibytes);
 
@@ -78,6 +81,21 @@ void Database::configure(const std::string& schema, const std::string& path) {
   places_.push_back(file);
   // The log stays the same file while any connection is open.
   if (const FilePlace log(path + "-wal"); log.isKnown()) places_.push_back(log);
+}
+
+void Database::switchToLog(const std::string& schema) {
+  using Clock = std::chrono::steady_clock;
+  constexpr std::chrono::milliseconds kPause(10);
+  const auto end = Clock::now() + std::chrono::milliseconds(busyMilliseconds_);
+  // SQLite does not wait by itself here: of two that open a new file at once, one is refused.
+  for (;;) {
+    try {
+      return run("PRAGMA " + schema + ".journal_mode=WAL");
+    } catch (const ado::Error& error) {
+      if (error.kind() != ado::ErrorKind::Busy || Clock::now() >= end) throw;
+    }
+    std::this_thread::sleep_for(kPause);
+  }
 }
 
 void Database::requireInPlace(std::string_view subject) const {

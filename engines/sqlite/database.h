@@ -88,11 +88,13 @@ class Database {
   };
   void open(const std::string& name, int flags, int busyMilliseconds);
   void configure(const std::string& schema, const std::string& path);
+  void switchToLog(const std::string& schema);
 
   std::unique_ptr<sqlite3, Close> connection_;
   std::optional<ado::Error> functionFailure_;
   std::vector<FilePlace> places_;
   bool hasPartner_ = false;
+  int busyMilliseconds_ = 0;
 };
 
 /// The transaction as its caller believes it to be. SQLite gives up a transaction by itself after

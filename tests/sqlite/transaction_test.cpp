@@ -46,7 +46,7 @@ TEST_F(TransactionTest, ASecondUserReadsTheOldStateAndWaitsToWrite) {
   note(1);
   EXPECT_EQ(rowsOf(other->Execute("select Cav_Id from Cav")).size(), 0U);
   EXPECT_EQ(support::failureOf([&] { other->BeginTrans(); }),
-            "La base de datos está ocupada por otro usuario (database is locked)");
+            "La base de datos está ocupada por otro usuario");
   EXPECT_FALSE(other->inTransaction());
   EXPECT_THROW(other->Execute("insert into Cav (Cav_Id) values (2)"), ado::Error);
   connection_->CommitTrans();
