@@ -221,7 +221,7 @@ bool Transaction::isOpen() const {
 
 void Transaction::requireWritable(std::string_view subject) {
   constexpr unsigned kFirstWrites = 8;
-  constexpr unsigned kStride = 32;
+  constexpr unsigned kStride = 512;
   requireNotLost(subject);
   if (database_->inTransaction() && ++writes_ > kFirstWrites && writes_ % kStride != 0) return;
   database_->requireInPlace(subject);
