@@ -1,5 +1,7 @@
 #include "data/money_rule.h"
 
+#include "outside/plindor/util_formulario.h"
+
 namespace korvantes::data {
 
 namespace {
@@ -39,6 +41,12 @@ OptionalDecimal noteNet(const OptionalDecimal& sumOfLines, const OptionalDecimal
   if (!sumOfLines || !discount1 || !discount2) return {};
   const Decimal left = toCents(*sumOfLines) - shareOf(*sumOfLines, *discount1);
   return left - shareOf(left, *discount2);
+}
+
+double commissionPercent(const Decimal& commission, const Decimal& net) {
+  if (net.units() == 0) return 0;
+  const plindor::UtilFormulario util;
+  return util.Redondea(util.Redondea(commission.toDouble() * 100, kCents) / net.toDouble(), kCents);
 }
 
 Decimal percentageOf(const Decimal& amount, const Decimal& percent) {

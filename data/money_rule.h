@@ -30,6 +30,10 @@ ado::Decimal lineCommission(const OptionalDecimal& amount, const OptionalDecimal
 OptionalDecimal noteNet(const OptionalDecimal& sumOfLines, const OptionalDecimal& discount1,
                         const OptionalDecimal& discount2);
 
+/// A commission as the percentage of the net amount that it is paid on, to two places; 0 where that
+/// is 0. For the eye alone: nothing is computed from it, and it is a double.
+double commissionPercent(const ado::Decimal& commission, const ado::Decimal& net);
+
 /// A percentage of an amount, rounded once, to cents: VAT and withholding of a base.
 ado::Decimal percentageOf(const ado::Decimal& amount, const ado::Decimal& percent);
 

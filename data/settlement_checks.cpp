@@ -8,7 +8,8 @@ namespace korvantes::data {
 namespace {
 
 constexpr const char* kLineBreak = "\r\n";
-constexpr const char* kLostInvoice = ", porque han perdido su factura o su cliente: ";
+constexpr const char* kLostInvoice =
+    ", porque ya no existen o han perdido su factura o su cliente: ";
 
 std::string removalWords(std::int32_t settlement, std::size_t notes, std::size_t listed) {
   const std::string number = std::to_string(settlement);

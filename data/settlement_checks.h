@@ -39,9 +39,10 @@ struct Question {
 std::optional<Question> questionAboutAgent(std::int32_t listed, std::int32_t agent,
                                            const std::string& name);
 
-/// A stored settlement with delivery notes that the list cannot show, as they have lost their
-/// invoice or customer, or without any: saved as listed, it loses those notes, and disappears if
-/// nothing is marked. No question where the user unmarked every note himself. Sends one statement.
+/// A stored settlement with delivery notes that the list cannot show, as they are gone or have
+/// lost their invoice or customer, or without any: saved as listed, it loses those notes, and
+/// disappears if nothing is marked. No question where the user unmarked every note himself. Sends
+/// one statement.
 std::optional<Question> questionAboutHiddenNotes(ado::Connection& connection,
                                                  std::int32_t settlement, std::size_t listed,
                                                  bool anyMarked);

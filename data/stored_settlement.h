@@ -15,7 +15,7 @@ ado::Recordset storedSettlement(ado::Connection& connection, std::int32_t settle
 std::string whyNotFound(ado::Connection& connection, std::int32_t settlement);
 
 /// How many delivery notes a stored settlement has, including those that settledStatement leaves
-/// out because they have lost their invoice or customer.
+/// out because they are gone or have lost their invoice or customer.
 std::size_t notesOf(ado::Connection& connection, std::int32_t settlement);
 
 /// "La liquidación 7 ya no existe: …": another user has changed or deleted it.

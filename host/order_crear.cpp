@@ -1,4 +1,5 @@
 #include <ostream>
+#include <string>
 
 #include "host/create_base.h"
 #include "host/orders.h"
@@ -15,23 +16,24 @@ CreatedBase create(const CommandLine& line, BaseContents contents) {
   return created;
 }
 
-/// What to add where one of the two files was there before.
-const char* keptPart(CreatedBase created) {
-  if (!created.shared) return " La base de datos compartida ya existía y no se ha cambiado.";
-  if (!created.company) return " Solo faltaba la base de datos compartida.";
-  return "";
+/// What was done: only one of the two files may have lacked anything.
+std::string wordsOf(CreatedBase created, const std::string& tables) {
+  if (!created.company)
+    return "Completada la base de datos compartida; la de la empresa no se ha cambiado.";
+  if (created.shared) return tables;
+  return tables + " La base de datos compartida ya existía y no se ha cambiado.";
 }
 
 }  // namespace
 
 void orderCreate(const CommandLine& line, Streams streams) {
-  const CreatedBase created = create(line, BaseContents::EmptyTables);
-  streams.out << "Tablas creadas." << keptPart(created) << '\n';
+  streams.out << wordsOf(create(line, BaseContents::EmptyTables), "Tablas creadas.") << '\n';
 }
 
 void orderDemo(const CommandLine& line, Streams streams) {
-  const CreatedBase created = create(line, BaseContents::SampleData);
-  streams.out << "Tablas creadas, con datos de muestra." << keptPart(created) << '\n';
+  streams.out << wordsOf(create(line, BaseContents::SampleData),
+                         "Tablas creadas, con datos de muestra.")
+              << '\n';
 }
 
 }  // namespace korvantes::host

@@ -67,10 +67,7 @@ void frmNewLiquidAgentes::cargaDetalle(ado::Connection& conexion) {
   rsAlb = conexion.Execute(data::settledStatement(nLiqui));
   for (; !rsAlb.isEOF(); rsAlb.MoveNext()) {
     const data::ListedNote albaran = data::listedNote(conexion, rsAlb);
-    const double dNeto = albaran.amount.toDouble();
-    const double dComision = albaran.commission.toDouble();
-    const double dPorcentaje =
-        dNeto == 0 ? 0.0 : oUtil->Redondea(oUtil->Redondea(dComision * 100, 2) / dNeto, 2);
+    const double dPorcentaje = data::commissionPercent(albaran.commission, albaran.amount);
     const std::string sSerie = screen::CStr(rsAlb.Collect("Fav_Serie"));
 
     screen::ListView::ListItem& fila = ListView1.Add((sSerie.empty() ? "" : sSerie + "/") +

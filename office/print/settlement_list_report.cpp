@@ -112,7 +112,8 @@ std::vector<QString> SettlementListReport::remarksOn(const ListedDay& day,
   } else if (several &&
              settlement.commissionsOfRows.value() != settlement.sums.commissions.value()) {
     remarks.push_back("Sus filas suman " + texts_.amount(settlement.commissionsOfRows.value()) +
-                      ". Una factura de varias liquidaciones del día ocupa una sola fila.");
+                      ". Una factura de varias liquidaciones del día ocupa una sola fila; un "
+                      "albarán sin factura, ninguna.");
   }
   if (settlement.changed)
     remarks.push_back(changedSinceSettled(texts_.amount(settlement.sums.commissions.value())));

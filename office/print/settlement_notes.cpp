@@ -1,7 +1,7 @@
 #include "office/print/settlement_notes.h"
 
+#include "data/money_rule.h"
 #include "data/money_rule_sql.h"
-#include "outside/plindor/util_formulario.h"
 
 namespace korvantes::office {
 
@@ -80,9 +80,7 @@ SettledNote settledNote(const ado::Recordset& rows, std::size_t row) {
 }
 
 double SettledNote::percent() const {
-  if (net.units() == 0) return 0;
-  const plindor::UtilFormulario util;
-  return util.Redondea(util.Redondea(commission.toDouble() * 100, 2) / net.toDouble(), 2);
+  return data::commissionPercent(commission, net);
 }
 
 }  // namespace korvantes::office

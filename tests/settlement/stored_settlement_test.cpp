@@ -54,13 +54,11 @@ TEST(StoredSettlement, OneThatIsGoneOrCannotBeShownIsToldAndLeftAlone) {
 TEST(StoredSettlement, OneThatWouldDisappearIsRemovedOnlyAfterAQuestionThatSaysSo) {
   constexpr const char* kNone = "La liquidación 1 se va a eliminar: no tiene ningún albarán.";
   constexpr const char* kLost =
-      "La liquidación 1 se va a eliminar: sus albaranes no aparecen en la lista, porque han "
-      "perdido "
-      "su factura o su cliente: 2.";
+      "La liquidación 1 se va a eliminar: sus albaranes no aparecen en la lista, porque ya no "
+      "existen o han perdido su factura o su cliente: 2.";
   constexpr const char* kOneLost =
       "La liquidación 1 se va a eliminar: no hay ningún albarán marcado, y los demás no aparecen "
-      "en "
-      "la lista, porque han perdido su factura o su cliente: 1.";
+      "en la lista, porque ya no existen o han perdido su factura o su cliente: 1.";
   struct Case {
     const char *change, *question;
   };
@@ -68,6 +66,7 @@ TEST(StoredSettlement, OneThatWouldDisappearIsRemovedOnlyAfterAQuestionThatSaysS
       {"delete from Lcd where Lcd_IdLca = 1", kNone},
       {"Update Fav set Fav_IdCli = 0 where Fav_Id > 0", kLost},
       {"Update Fav set Fav_IdCli = 0 where Fav_Id = 2", kOneLost},
+      {"delete from Cav where Cav_Id = 2", kOneLost},
       {"Update Fav set Fav_IdCli = 1 where Fav_Id = 2", nullptr},  // unmarked by the user
   };
   for (const Case& each : cases) {
