@@ -126,6 +126,9 @@ TEST_F(HostTest, PrintsTheResultsOfStatementsUntilOneFails) {
   EXPECT_NE(printed.err.find("sentencia 6: "), std::string::npos) << printed.err;
   EXPECT_NE(printed.err.find("NoHay"), std::string::npos) << printed.err;
   EXPECT_EQ(run({"--base", url(), "sql"}, "select count(*) as n from T;").out, "n\n2\n");
+  run({"--base", url(), "sql"}, "drop table Vespara.dbo.PAIS;");
+  EXPECT_EQ(run({"--base", url(), "crear"}).out,
+            "Completada la base de datos compartida; la de la empresa no se ha cambiado.\n");
 }
 
 TEST_F(HostTest, AScriptWithAnErrorEndsWithStatus1) {
