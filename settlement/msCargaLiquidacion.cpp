@@ -1,5 +1,6 @@
 #include "component/mdoKORVANTES.h"
 #include "data/listed_notes.h"
+#include "data/money_rule.h"
 #include "data/stored_settlement.h"
 #include "runtime/screen/conversions.h"
 #include "settlement/frmNewLiquidAgentes.h"
