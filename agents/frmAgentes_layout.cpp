@@ -1,25 +1,21 @@
 // Positions and appearance of the agents' screen. Twips.
 #include "agents/fields.h"
 #include "agents/frmAgentes.h"
+#include "component/appearance.h"
 
 namespace korvantes {
 
 using namespace agents;
+using namespace appearance;
 
 namespace {
 
 using screen::Alignment;
 using screen::Box;
 using screen::Color;
-using screen::Font;
 
-constexpr Color kPaper = screen::rgb(237, 222, 154);
 constexpr Color kPanel = screen::rgb(234, 202, 117);
-constexpr Color kNavy = screen::rgb(0, 0, 128);
 constexpr Color kYellow = screen::rgb(255, 255, 0);
-
-constexpr Font kRegular{8.25, false};
-constexpr Font kBold{8.25, true};
 
 struct LabelRow {
   int index;
@@ -63,14 +59,6 @@ constexpr TextRow kTexts[] = {
     {kEmail, {3720, 2880, 5055, 285}, 10, 100},    {kFax, {120, 3480, 1695, 285}, 11, 25},
     {kComision, {2520, 3480, 735, 285}, 12, 6},
 };
-
-void setUpFrame(screen::Frame& frame, const char* caption, const Box& box, int tabIndex,
-                Color background) {
-  frame.Caption = caption;
-  frame.place(box);
-  frame.TabIndex = tabIndex;
-  frame.BackColor = background;
-}
 
 void setUpCombo(screen::ComboBox& combo, screen::Frame& frame, const Box& box, int tabIndex) {
   combo.container(&frame);

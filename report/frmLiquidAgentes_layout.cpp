@@ -1,7 +1,10 @@
 // Positions and appearance of the settlement search screen. Twips.
+#include "component/appearance.h"
 #include "report/frmLiquidAgentes.h"
 
 namespace korvantes {
+
+using namespace appearance;
 
 namespace {
 
@@ -9,7 +12,6 @@ using screen::Alignment;
 using screen::Box;
 using screen::Color;
 
-constexpr Color kPaper = screen::rgb(237, 222, 154);
 constexpr Color kDarkRed = screen::rgb(192, 0, 0);
 constexpr screen::Font kTotal{12, true};
 

@@ -1,7 +1,10 @@
 // Positions (in twips), captions and colours of the settlement screen.
+#include "component/appearance.h"
 #include "settlement/frmNewLiquidAgentes.h"
 
 namespace korvantes {
+
+using namespace appearance;
 
 namespace {
 
@@ -10,12 +13,8 @@ using screen::Box;
 using screen::Color;
 using screen::Font;
 
-constexpr Color kPaper = screen::rgb(237, 222, 154);
 constexpr Color kDarkRed = screen::rgb(128, 0, 0);
-constexpr Color kNavy = screen::rgb(0, 0, 128);
 
-constexpr Font kRegular{8.25, false};
-constexpr Font kBold{8.25, true};
 constexpr Font kAmount{12, true};
 
 struct LabelRow {
@@ -80,10 +79,7 @@ constexpr ColumnRow kColumns[] = {
 };
 
 void setUpFrame(screen::Frame& frame, const char* caption, const Box& box, int tabIndex) {
-  frame.Caption = caption;
-  frame.place(box);
-  frame.TabIndex = tabIndex;
-  frame.BackColor = kPaper;
+  appearance::setUpFrame(frame, caption, box, tabIndex, kPaper);
   frame.ForeColor = kDarkRed;
 }
 
@@ -178,7 +174,7 @@ void frmNewLiquidAgentes::layOut() {
   cmdExcell.setUp("&Exportar a Excel", "hoja", {11640, 480, 1935, 495}, 37);
   cmdSelTodo.setUp("Seleccionar &Todo", "marcar", {9600, 1080, 1935, 495}, 33);
   cmdCancelar.setUp("&Cancelar", "cancelar", {11640, 1080, 1935, 495}, 32);
-  // Twice as wide as its neighbours, it covers cmdBorrar until a stored settlement is loaded.
+  // Twice as wide as its neighbours: it covers cmdBorrar until a stored settlement is loaded.
   cmdBorrar.setUp("Borrar Liquidación", "borrar", {11640, 1680, 1935, 495}, 38);
   cmdGrabar.setUp("&Guardar Liquidacion", "guardar", {9600, 1680, 3975, 495}, 34);
   cmdSalir.setUp("&Salir", "salir", {12840, 120, 855, 735}, 39);
