@@ -1,10 +1,10 @@
 #include <benchmark/benchmark.h>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
+#include "bench/peak_memory.h"
 #include "office/sheet/spreadsheet.h"
 #include "runtime/ado/temporary_folder.h"
 #include "runtime/screen/form.h"
@@ -12,21 +12,6 @@
 namespace korvantes::bench {
 
 namespace {
-
-/// A figure of /proc/self/status in kB, "VmRSS:" or "VmHWM:".
-double memory(const std::string& name) {
-  std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
-    double kilobytes = 0;
-    if (word == name && status >> kilobytes) return kilobytes;
-  }
-  throw std::runtime_error(name);
-}
-
-/// From here on the peak counts anew.
-void forgetPeak() {
-  std::ofstream("/proc/self/clear_refs") << "5";
-}
 
 /// Writes to one file again and again.
 class Outlet : public office::SheetOutlet {
@@ -46,7 +31,7 @@ class Outlet : public office::SheetOutlet {
   std::size_t rows_ = 0;
 };
 
-/// Counts what an export needs above the rows that were there before it.
+/// Measures the memory of an export beyond that of the rows.
 template <class Export>
 void measure(benchmark::State& state, Export&& toSheet) {
   const auto outlet = std::make_shared<Outlet>();

@@ -29,15 +29,14 @@ struct TableDefinition {
   std::optional<std::size_t> find(std::string_view column) const;
 };
 
-/// The tables a statement may name: what CREATE TABLE statements declared. Names are found without
-/// regard to case.
+/// The tables a statement may name: what CREATE TABLE statements declared. Names are
+/// case-insensitive.
 class Catalogue {
  public:
   const TableDefinition* find(std::string_view database, std::string_view table) const;
   /// Throws ado::Error if the table exists already.
   void add(TableDefinition table);
   void remove(std::string_view database, std::string_view table);
-  const std::vector<TableDefinition>& tables() const { return tables_; }
 
  private:
   std::vector<TableDefinition> tables_;

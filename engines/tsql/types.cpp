@@ -52,9 +52,6 @@ Type intType() {
 Type moneyType() {
   return {.kind = TypeKind::Money, .scale = kMoneyScale};
 }
-Type dateType() {
-  return {.kind = TypeKind::Date};
-}
 
 Type decimalType(int precision, int scale) {
   return {.kind = TypeKind::Decimal, .precision = precision, .scale = scale};

@@ -4,7 +4,7 @@
 
 namespace korvantes::tsql {
 
-/// A type of the server that the subset knows.
+/// The server's types in the subset.
 enum class TypeKind {
   Null,      ///< the word NULL before it meets a typed neighbour
   Bit,       ///< 0 or 1
@@ -26,12 +26,12 @@ struct Type {
   friend bool operator==(const Type&, const Type&) = default;
 };
 
-/// The type as a declaration writes it: "money", "decimal(5,2)", "varchar(40)".
+/// The type as in a declaration: "money", "decimal(5,2)", "varchar(40)".
 std::string nameOf(const Type& type);
 
 /// Decimals of money.
 constexpr int kMoneyScale = 4;
-/// Digits that a decimal can have: its units are 64-bit whole numbers.
+/// Largest precision of a decimal: its units are 64-bit whole numbers.
 constexpr int kMaxDigits = 18;
 
 /// Bit, Int, Money or Decimal.
@@ -42,7 +42,6 @@ bool isText(const Type& type);
 Type bitType();
 Type intType();
 Type moneyType();
-Type dateType();
 Type decimalType(int precision, int scale);
 /// 0 means max.
 Type varCharType(int length);
