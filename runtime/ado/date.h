@@ -15,12 +15,12 @@ struct Date {
 
   friend auto operator<=>(const Date&, const Date&) = default;
 
-  /// Nothing if there is no such day (31/02/2026).
+  /// Empty if there is no such day (31/02/2026).
   static std::optional<Date> make(int year, int month, int day);
   /// Reads "2026-02-28" exactly.
   static std::optional<Date> parseIso(std::string_view text);
-  /// Reads the form in which statements and screens carry dates: dd/mm/yyyy, day first, one or two
-  /// digits for day and month, four for the year. Trailing blanks are allowed.
+  /// Reads dates as statements and screens write them: dd/mm/yyyy, one or two digits for day and
+  /// month, four for the year. Trailing blanks are allowed.
   static std::optional<Date> parseDayFirst(std::string_view text);
 
   /// "2026-02-28".
@@ -33,7 +33,7 @@ struct Date {
   static Date fromSerial(long days);
 };
 
-/// A moment of the local clock.
+/// A local date and time.
 struct Moment {
   Date date;
   int secondsOfDay = 0;

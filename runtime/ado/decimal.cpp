@@ -154,7 +154,7 @@ Decimal decimalFromDouble(double value, int places) {
   constexpr int kDigits = 15;
   if (digits == 0 || shift < -kDigits) return {0, places};
   if (shift < 0) return {narrowed(dividedHalfAway(digits, powerOfTen(-shift))), places};
-  // 15 digits followed by more than 4 zeros never fit.
+  // 15 digits and more than 4 zeros never fit.
   if (shift > 4) throw ConversionError("El número es demasiado grande para un importe exacto");
   return {narrowed(digits * powerOfTen(shift)), places};
 }

@@ -26,18 +26,18 @@ class Decimal {
   constexpr std::int64_t units() const { return units_; }
   constexpr int scale() const { return scale_; }
 
-  /// Reads "-12.50" (a point, no thousands separators). Nothing if the text is anything else or
-  /// does not fit 64 bits.
+  /// Reads "-12.50" (a point, no thousands separators). Empty if the text is anything else or does
+  /// not fit 64 bits.
   static std::optional<Decimal> parse(std::string_view text);
 
   /// The same number at another scale; dropped digits round half away from zero:
   /// 1.005 at 2 is 1.01, -1.005 at 2 is -1.01. Throws ConversionError if it does not fit.
   Decimal rescaled(int scale) const;
 
-  /// a × b / 10^shift at the given scale: exact up to the one rounding, half away from zero.
-  /// Throws ConversionError when it does not fit.
+  /// a × b / 10^shift at the given scale, rounded once, half away from zero. Throws ConversionError
+  /// if it does not fit.
   static Decimal product(const Decimal& a, const Decimal& b, int shift, int scale);
-  /// At the larger of the two scales. Throw ConversionError when it does not fit.
+  /// The result has the larger of the two scales. Throw ConversionError if it does not fit.
   friend Decimal operator+(const Decimal& a, const Decimal& b);
   friend Decimal operator-(const Decimal& a, const Decimal& b);
   Decimal& operator+=(const Decimal& other) { return *this = *this + other; }

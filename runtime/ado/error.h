@@ -1,7 +1,7 @@
-// runtime/ado: values, recordsets and connections, which every layer passes on.
+// runtime/ado: values, recordsets and connections, used by every layer.
 //
-// Nothing here knows an engine. Values are exact: money and percentages are scaled integers and
-// become a double only if a caller asks for one.
+// Nothing here depends on an engine. Values are exact: money and percentages are scaled integers,
+// converted to double only on request.
 #pragma once
 
 #include <stdexcept>
@@ -23,7 +23,7 @@ enum class ErrorKind {
   FileReplaced,     ///< the open database file was deleted, renamed or replaced
   DiskFull,
   NotPermitted,  ///< read-only, or a right is missing
-  Damaged,       ///< the file is not a database of ours, or a broken one
+  Damaged,       ///< the file is corrupt, or not one of our databases
   Syntax,        ///< the statement, or a name in it, is wrong
   Overflow,      ///< a value does not fit its type
 };
@@ -60,7 +60,7 @@ class Error : public std::runtime_error {
 /// The first words of a statement: one line of at most 60 characters.
 std::string subjectOf(std::string_view statement);
 
-/// A value that cannot be read as what the caller asked for: Null as a number, text as a date, a
+/// A value that cannot be converted to the type asked for: Null to a number, text to a date, a
 /// number too large for a Long.
 class ConversionError : public std::runtime_error {
  public:

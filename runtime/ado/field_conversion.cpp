@@ -77,7 +77,7 @@ Variant convertedTo(const FieldDefinition& field, Variant value) {
   }
   const auto most = static_cast<std::size_t>(field.size);
   const bool isText = value.kind() == Variant::Kind::Text;
-  // A text that fits stays the one that its copies share. No character is shorter than a byte.
+  // A text that fits stays shared with its copies. Every character takes at least one byte.
   if (isText && (most == 0 || value.text().size() <= most)) return value;
   std::string text = textOf(field, value);
   if (most > 0) text.resize(firstCharacters(text, most).size());

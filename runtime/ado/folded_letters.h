@@ -4,8 +4,8 @@
 
 namespace korvantes::ado {
 
-/// A letter for comparison: the code of its bare small letter, and the place of its accent among
-/// the combining marks (U+0300 is 1), 0 if it has none.
+/// A letter for comparison: the code of its unaccented lower-case letter, and the number of its
+/// accent among the combining marks (U+0300 is 1), 0 if it has none.
 struct FoldedLetter {
   char16_t letter;
   unsigned char accent;

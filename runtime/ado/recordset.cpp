@@ -10,7 +10,7 @@ namespace korvantes::ado {
 
 namespace {
 
-// Numbers that ADO gives these failures.
+// ADO's numbers for these failures.
 constexpr long kNoCurrentRow = 3021;
 constexpr long kReadOnly = 3251;
 constexpr long kNoSuchField = 3265;
@@ -123,7 +123,7 @@ void Recordset::Cursor::putOnFirst() {
 }
 
 void Recordset::Cursor::moved() const {
-  // A copy: the handler may set another one, or none, while it runs.
+  // A copy: the handler may replace or remove itself while it runs.
   if (const auto handler = moveComplete) handler();
 }
 
@@ -155,7 +155,7 @@ void Recordset::Open() {
 void Recordset::Close() {
   cursor_->dropEdit();
   cursor_->open = false;
-  // Clones keep the rows; a closed recordset built by hand opens again without any.
+  // Clones keep the rows; a closed recordset built by hand reopens empty.
   const auto& rows = *cursor_->rows;
   cursor_->rows = std::make_shared<Rows>(Rows{rows.definitions, {}, nullptr, rows.byHand});
 }
@@ -291,7 +291,7 @@ void Recordset::Update() {
     for (std::size_t i = 0; i < cursor.draft.size(); ++i) {
       if (cursor.changed[i]) changes.emplace_back((*rows.definitions)[i].name, cursor.draft[i]);
     }
-    // When this throws, the edit stays as it is and can be tried again.
+    // If this throws, the edit is kept and can be retried.
     if (rows.writer) rows.writer->write(changes);
     for (std::size_t i = 0; i < cursor.draft.size(); ++i) {
       if (cursor.changed[i]) rows.cell(cursor.row, i) = std::move(cursor.draft[i]);

@@ -13,7 +13,7 @@
 
 namespace korvantes::ado {
 
-/// Types of a field, with the numbers that ADO gives them.
+/// Field types, with ADO's numbers.
 enum class FieldType {
   Integer = 3,
   Double = 5,
@@ -25,8 +25,8 @@ enum class FieldType {
   LongVarBinary = 205,
 };
 
-/// Name, type and size of a field. The size of a text counts characters, 0 means unlimited; the
-/// scale is that of exact decimals (4 for Currency).
+/// Name, type and size of a field. The size of a text is in characters, 0 means unlimited; the
+/// scale applies to exact decimals (4 for Currency).
 struct FieldDefinition {
   std::string name;
   FieldType type = FieldType::VarChar;
@@ -35,7 +35,7 @@ struct FieldDefinition {
 };
 
 /// The fields of a result. Shared between a statement's compiled form and all its results, so that
-/// a result of a few rows costs no copies of names.
+/// small results copy no names.
 using FieldDefinitions = std::shared_ptr<const std::vector<FieldDefinition>>;
 
 /// Writes a changed row back to where it was fetched from. An engine passes one to a
@@ -122,7 +122,7 @@ class Recordset {
   void Close();
   bool isOpen() const;
 
-  /// Rows, also those before the cursor; a row being added counts from its Update on.
+  /// Number of rows, including those before the cursor; a new row counts once Update is called.
   /// Throws Error on a closed recordset, as does all that follows.
   std::size_t RecordCount() const;
   bool isBOF() const;
@@ -162,7 +162,7 @@ class Recordset {
   const std::vector<FieldDefinition>& definitions() const;
   /// Position of the first field with that name, case-insensitive.
   std::optional<std::size_t> positionOf(std::string_view name) const;
-  /// The current row, from 0; nothing at BOF, EOF and while a row is being added.
+  /// The current row, from 0; empty at BOF, at EOF and while a row is being added.
   std::optional<std::size_t> position() const;
   /// Makes a row current, from 0, with the move event.
   void moveTo(std::size_t row);

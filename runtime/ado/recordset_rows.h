@@ -1,4 +1,4 @@
-// Inner parts of a recordset, for the files that implement it.
+// Internals of Recordset, for the files that implement it.
 #pragma once
 
 #include <string_view>

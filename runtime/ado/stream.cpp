@@ -19,7 +19,7 @@ namespace {
   throw Error(systemErrorKind(number), number, what + " " + path + ": " + systemWords(number));
 }
 
-/// An open file, closed when it goes.
+/// An open file; the destructor closes it.
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
@@ -29,14 +29,14 @@ class Descriptor {
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
   int number() const { return number_; }
-  /// Closes now, for callers that must know whether it went well.
+  /// Closes the file now, for callers that need the result.
   bool close() { return ::close(std::exchange(number_, -1)) == 0; }
 
  private:
   int number_;
 };
 
-/// A file on its way to its final name, removed again unless it got there.
+/// A temporary file; the destructor deletes it unless it got its final name.
 class HalfWritten {
  public:
   explicit HalfWritten(std::string path) : path_(std::move(path)) {}
@@ -73,7 +73,7 @@ void Stream::LoadFromFile(const std::string& path) {
   bytes.reserve(static_cast<std::size_t>(state.st_size) + kPiece);
   for (;;) {
     const std::size_t had = bytes.size();
-    if (had > kMaxBytes) fail(kCannot, path, EFBIG);  // it grew meanwhile
+    if (had > kMaxBytes) fail(kCannot, path, EFBIG);  // it has grown since
     bytes.resize(had + kPiece);
     const ssize_t got = ::read(file.number(), bytes.data() + had, kPiece);
     if (got < 0 && errno != EINTR) fail(kCannot, path, errno);

@@ -10,14 +10,13 @@ namespace korvantes::ado {
 /// Bytes in memory, read from a file or to be written to one.
 class Stream {
  public:
-  /// Largest file that is read: 64 MiB. A larger one is an Error, not a machine out of memory.
+  /// Largest file that is read: 64 MiB. A larger one throws Error instead of using up the memory.
   static constexpr std::size_t kMaxBytes = std::size_t{64} << 20U;
 
-  /// Replaces the contents by those of a whole regular file. Throws Error with the system's
-  /// words.
+  /// Replaces the contents with those of a regular file. Throws Error with the system's reason.
   void LoadFromFile(const std::string& path);
-  /// Writes all bytes, replacing the file; it is made readable by its owner alone. A link in its
-  /// place is not followed. Throws Error with the system's words and leaves no half-written file.
+  /// Writes all bytes, replacing the file, which only its owner can read. A symbolic link is
+  /// replaced, not followed. Throws Error with the system's reason and leaves no half-written file.
   void SaveToFile(const std::string& path) const;
 
   void Write(const Bytes& bytes);

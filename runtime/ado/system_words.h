@@ -7,10 +7,10 @@
 
 namespace korvantes::ado {
 
-/// The Spanish words of a failure of the operating system, whatever the machine's language:
-/// "el disco está lleno". An unknown one gets its number.
+/// Describes an operating system error in Spanish, whatever the machine's language: "el disco está
+/// lleno". An unknown error is described by its number.
 std::string systemWords(const std::error_code& code);
-/// The same for a value of errno.
+/// The same for an errno value.
 std::string systemWords(int errorNumber);
 
 /// The kind of such a failure: DiskFull, NotPermitted or Other.

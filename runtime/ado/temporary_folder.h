@@ -6,12 +6,12 @@
 
 namespace korvantes::ado {
 
-/// A new folder that only its user can enter (mode 0700), under a name that nobody can predict. The
+/// A new folder that only its user can enter (mode 0700), with an unpredictable name. The
 /// destructor deletes it with its contents.
 class TemporaryFolder {
  public:
-  /// Makes the folder "parent/prefixXXXXXX", by default in the system's folder for such files.
-  /// Throws Error, whose number is the value of errno.
+  /// Creates the folder "parent/prefixXXXXXX", by default in the system's temporary folder. Throws
+  /// Error with errno as its number.
   explicit TemporaryFolder(const std::filesystem::path& parent = {},
                            std::string_view prefix = "korvantes-");
   TemporaryFolder(TemporaryFolder&& other) noexcept;

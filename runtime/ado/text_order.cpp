@@ -24,7 +24,7 @@ FoldedLetter foldedAscii(char32_t c) {
   return {static_cast<char16_t>(lowered(static_cast<char>(c))), 0};
 }
 
-/// Small letter of the alphabets beyond Latin that fold by a fixed distance.
+/// Lower case in alphabets beyond Latin where it is at a fixed distance.
 char32_t loweredBeyondLatin(char32_t c) {
   const bool greek = c >= 0x391 && c <= 0x3A9 && c != 0x3A2;
   const bool cyrillic = c >= 0x410 && c <= 0x42F;
@@ -33,13 +33,13 @@ char32_t loweredBeyondLatin(char32_t c) {
   return c;
 }
 
-/// One letter with the accents on it: the two levels on which texts are compared.
+/// One letter and its accents: the two levels of comparison.
 struct Letter {
   char32_t letter = 0;
   char32_t accents = 0;
 };
 
-/// Reads the letters of a text one by one, so that a comparison needs no memory of its own.
+/// Reads the letters of a text one by one, so that a comparison allocates no memory.
 class Letters {
  public:
   /// Starts at byte `at`, which must be the first of a letter.
@@ -67,7 +67,7 @@ class Letters {
   }
 
  private:
-  /// Letters are spaced out by two, so that ñ fits in after n.
+  /// Letters are two apart, so that ñ fits after n.
   static Letter bare(char32_t c, char32_t& accent) {
     if (c < 0x80) return {foldedAscii(c).letter * U'\2', 0};
     if (c >= kFirstFoldedLetter && c - kFirstFoldedLetter < kFoldedLetters.size()) {
@@ -84,7 +84,7 @@ class Letters {
 
 /// Compares what follows byte `from`; what precedes it is equal in both texts.
 int compareFolded(std::string_view a, std::string_view b, std::size_t from) {
-  // Accents on the letter before belong to it.
+  // Accents belong to the letter before them.
   while (from > 0 && static_cast<unsigned char>(a[--from]) >= 0x80) {
   }
   Letters left(a, from);
@@ -113,7 +113,7 @@ int compareTexts(std::string_view a, std::string_view b) {
     const auto left = static_cast<unsigned char>(a[i]);
     const auto right = static_cast<unsigned char>(b[i]);
     if (left >= 0x80 || right >= 0x80) return compareFolded(a, b, i);
-    // Different bare letters decide, whatever accents follow them.
+    // Different letters decide, regardless of accents.
     const int difference = lowered(a[i]) - lowered(b[i]);
     if (difference != 0) return difference;
   }

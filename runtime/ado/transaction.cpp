@@ -9,7 +9,7 @@ namespace {
 std::optional<Error> rolledBack(Connection& connection) noexcept {
   constexpr int kAttempts = 2;
   std::optional<Error> failure;
-  // What counts is whether it is still open: a rollback can succeed although its answer is lost.
+  // Check whether it is still open: a rollback can succeed even if the reply is lost.
   for (int attempt = 0; attempt < kAttempts && connection.inTransaction(); ++attempt) {
     try {
       connection.RollbackTrans();

@@ -6,12 +6,12 @@
 
 namespace korvantes::ado {
 
-/// A transaction for as long as the object lives: opened by the constructor, rolled back by the
-/// destructor unless commit or rollBack was called.
+/// The constructor opens a transaction; the destructor rolls it back unless commit or rollBack was
+/// called.
 class Transaction {
  public:
-  /// Throws what BeginTrans throws, also if a transaction is open already; that one stays as it
-  /// is. Otherwise nothing is left open, even if only the answer was lost.
+  /// Throws what BeginTrans throws. A transaction that was already open is then unaffected;
+  /// otherwise none is left open, even if only the reply was lost.
   explicit Transaction(Connection& connection);
   ~Transaction() {
     if (!ended_) rollBack();
@@ -19,12 +19,12 @@ class Transaction {
   Transaction(const Transaction&) = delete;
   Transaction& operator=(const Transaction&) = delete;
 
-  /// Throws what CommitTrans throws; the transaction is then still to be rolled back. If only the
-  /// answer was lost, the changes are stored all the same.
+  /// Throws what CommitTrans throws; the transaction must then still be rolled back. If only the
+  /// reply was lost, the changes are stored anyway.
   void commit();
 
-  /// Undoes at once what is not committed, for callers that tell the user the outcome. Returns the
-  /// failure if the changes could not be undone; the transaction is then still open.
+  /// Rolls back now, for callers that report the outcome. Returns the error if the rollback failed;
+  /// the transaction is then still open.
   std::optional<Error> rollBack() noexcept;
 
  private:

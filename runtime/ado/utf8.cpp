@@ -54,7 +54,7 @@ std::string_view firstCharacters(std::string_view text, std::size_t count) {
 }
 
 std::size_t byteOffset(std::string_view text, std::size_t index) {
-  // A text of no more bytes than that has no such character.
+  // A text with no more bytes than that has no such character.
   if (text.size() <= index) return text.size();
   std::size_t at = 0;
   for (; at < text.size() && index > 0; --index) at += decode(text, at).length;

@@ -6,17 +6,16 @@
 
 namespace korvantes::ado {
 
-/// Texts are UTF-8; lengths that a user meets (a field's maximum, a column's size) count
-/// characters, that is, code points. A byte that belongs to no valid sequence counts as one
-/// character, so that no text is ever lost or refused here.
+/// Texts are UTF-8; user-visible lengths (a field's maximum, a column's size) count code points. An
+/// invalid byte counts as one character, so that no text is ever lost or rejected here.
 
 /// Number of characters.
 std::size_t characterCount(std::string_view text);
 
-/// The first `count` characters, the whole text when it has fewer.
+/// The first `count` characters, or the whole text if it has fewer.
 std::string_view firstCharacters(std::string_view text, std::size_t count);
 
-/// Byte position of character `index`; the text's size when it has no such character.
+/// Byte position of character `index`; the text's size if there is no such character.
 std::size_t byteOffset(std::string_view text, std::size_t index);
 
 /// The code point at byte `at`, which moves past it; an invalid byte counts as U+FFFD.

@@ -55,7 +55,7 @@ std::int64_t wholeHalfToEven(const Decimal& number) {
 
 }  // namespace
 
-/// A value and the number of those who hold it.
+/// A value and its reference count.
 template <typename Value>
 struct Variant::Shared {
   explicit Shared(Value v) : value(std::move(v)) {}
@@ -70,7 +70,7 @@ void share(Shared* shared) {
   shared->owners.fetch_add(1, std::memory_order_relaxed);
 }
 
-/// The last owner takes the value with it.
+/// The last owner deletes the value.
 template <typename Shared>
 void release(Shared* shared) {
   if (shared->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {

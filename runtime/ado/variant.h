@@ -11,8 +11,8 @@
 
 namespace korvantes::ado {
 
-/// What a Variant holds. (Stands outside of the class and before Bytes, or the compiler takes the
-/// enumerator for a shadow of the type.) The kinds from Text on are shared between copies.
+/// What a Variant holds. (Declared outside the class and before Bytes, or the compiler warns that
+/// an enumerator shadows the type.) Kinds from Text on are shared between copies.
 enum class VariantKind : std::uint8_t { Null, Boolean, Whole, Double, Decimal, Date, Text, Bytes };
 
 using Bytes = std::vector<std::byte>;
@@ -62,7 +62,7 @@ class Variant {
   Kind kind() const { return kind_; }
   bool isNull() const { return kind_ == Kind::Null; }
 
-  /// The value as it is stored. Throw ConversionError when the kind is another one.
+  /// Return the stored value. Throw ConversionError if it is of another kind.
   bool boolean() const;
   std::int64_t whole() const;
   Decimal decimal() const;

@@ -37,7 +37,7 @@ class Control : public PropertyOwner {
     CommonDialog
   };
 
-  /// @param index place in a control array; empty for a single control
+  /// @param index index in a control array; empty for a single control
   Control(Form& form, Kind kind, std::string name, std::optional<int> index = std::nullopt);
   ~Control() override;
   Control(const Control&) = delete;
@@ -56,13 +56,13 @@ class Control : public PropertyOwner {
   void place(const Box& box);
   void place(int left, int top, int width, int height) { place({left, top, width, height}); }
 
-  /// Visible itself and in all its containers.
+  /// True if this control and all its containers are visible.
   bool shown() const;
-  /// Shown, and enabled itself, in all its containers and in the form.
+  /// True if this control is shown, and it, its containers and the form are enabled.
   bool usable() const;
   /// Usable, and of a kind that can have the focus.
   bool canTakeFocus() const;
-  /// canTakeFocus, with TabStop: where Tab leads.
+  /// canTakeFocus and TabStop: Tab stops here.
   bool isTabStop() const;
 
   /// Asks for the focus. Inside an event handler the request is carried out when the handler ends,
@@ -78,11 +78,11 @@ class Control : public PropertyOwner {
   Property<int> TabIndex{*this, "TabIndex"};
   Property<bool> TabStop{*this, "TabStop", true};
 
-  /// Events. Empty handlers are skipped. Handlers run through UserInput or, where the program's own
-  /// assignment raises an event, inside that assignment.
+  /// Events. Empty handlers are skipped. Handlers run through UserInput or, if an assignment by the
+  /// program raises the event, inside that assignment.
   std::function<void()> GotFocus, LostFocus, Click;
-  /// Key released while this control had the focus; the form's own KeyUp has run before. Setting
-  /// the code to 0 marks the key as handled.
+  /// Key released while this control had the focus; the form's KeyUp runs first. Setting the code
+  /// to 0 marks the key as handled.
   std::function<void(int& keyCode, int shift)> KeyUp;
 
  protected:

@@ -91,7 +91,7 @@ class ComboBox : public Control {
   Property<int> ListIndex{*this, "ListIndex", -1};
   Property<int> ListCount{*this, "ListCount", 0};
   /// On a list that cannot be typed into, an assignment selects the entry with that text and throws
-  /// std::invalid_argument if there is none. On the other kind it clears the selection, without
+  /// std::invalid_argument if there is none. On an editable one it clears the selection, without
   /// Click.
   Property<std::string> Text{*this, "Text"};
 
@@ -122,7 +122,7 @@ class PictureButton : public Control {
   /// Name of the icon for a face that has icons: "buscar", "guardar", "salir" …
   Property<std::string> Icon{*this, "Icon"};
 
-  /// What a form's layout sets on a button; the colours are the system's.
+  /// Sets what a form's layout defines; the colours are the system's.
   /// @param caption with "&" before its access key
   void setUp(const char* caption, const char* icon, const Box& box, int tabIndex);
 };
@@ -130,7 +130,7 @@ class PictureButton : public Control {
 class Image : public Control {
  public:
   explicit Image(Form& form, std::string name, std::optional<int> index = std::nullopt);
-  /// An empty picture shows nothing. Stretched to the control.
+  /// Stretched to the control; an empty picture shows nothing.
   Property<screen::Picture> Picture{*this, "Picture"};
 };
 
@@ -155,7 +155,7 @@ class CommonDialog : public Control {
 template <class T>
 class ControlArray {
  public:
-  /// @param indexes those of the controls, from back to front
+  /// @param indexes indexes of the controls, from back to front
   ControlArray(Form& form, std::string name, std::initializer_list<int> indexes = {})
       : form_(form), name_(std::move(name)) {
     for (const int index : indexes) add(index);

@@ -9,8 +9,8 @@
 
 namespace korvantes::screen {
 
-/// Conversions between values and the texts on the screen, as the runtime makes them. Where no
-/// regional settings are given, those of the current desktop apply.
+/// Conversions between values and texts on screen. Without regional settings, those of the current
+/// desktop apply.
 
 /// Those of the current desktop, or the machine's if there is none.
 const Regional& currentRegional();
@@ -37,8 +37,8 @@ ado::Decimal CDec(std::string_view text, const Regional& regional = currentRegio
 /// Whole number of 32 bits, fractions half to even; throws ado::ConversionError if the text is not
 /// a number or does not fit.
 int CLng(std::string_view text, const Regional& regional = currentRegional());
-/// The number that a text begins with, with a point as decimal separator whatever the settings; 0
-/// if there is none.
+/// The number that a text begins with, with a decimal point whatever the settings; 0 if there is
+/// none.
 double Val(std::string_view text);
 
 /// The general form: at most 15 significant digits, no trailing zeros, no thousands separator, no
@@ -51,8 +51,8 @@ std::string CStr(const ado::Variant& value, const Regional& regional = currentRe
 /// Masks: of numbers, "0.00", "000000", "##0.00", "#,###,##0.00 " (0, #, point, comma for
 /// thousands, literal text before and after); of dates, "dd/mm/yyyy", "yyyy-mm-dd". Numbers round
 /// half away from zero at 15 significant digits, never to a negative zero; an exact decimal is
-/// formatted exactly; more digits than the mask are never cut before the point. Null gives an
-/// empty text, a text gives itself.
+/// formatted exactly; more digits than the mask are never cut before the point. Null gives an empty
+/// text, a text is returned unchanged.
 std::string Format(const ado::Variant& value, std::string_view mask,
                    const Regional& regional = currentRegional());
 

@@ -50,7 +50,7 @@ class DataGrid : public Control {
 
  private:
   friend class UserInput;
-  /// Tells the face if the recordset's current row has changed since it was last told.
+  /// Notifies the face if the recordset's current row has changed since the last notification.
   void noticeMove();
 
   ado::Recordset source_;

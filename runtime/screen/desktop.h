@@ -17,7 +17,7 @@
 
 namespace korvantes::screen {
 
-/// Icons, buttons and default of a message box, added up as the runtime numbers them.
+/// Icon, buttons and default button of a message box; values are added.
 namespace style {
 constexpr int Plain = 0, Critical = 16, Question = 32, Exclamation = 48, Information = 64;
 constexpr int YesNo = 4, DefaultSecond = 256;
@@ -78,7 +78,7 @@ class Desktop {
   virtual Picture loadPicture(const std::string& path) = 0;
   /// Writes a picture as a bmp file. Throws ado::Error for the empty picture or a bad path.
   virtual void savePicture(const Picture& picture, const std::string& path) = 0;
-  /// 0 the usual pointer, 13 arrow with hourglass.
+  /// 0 the default pointer, 13 arrow with hourglass.
   virtual void mousePointer(int shape) { mousePointer_ = shape; }
   int mousePointer() const { return mousePointer_; }
   /// The local clock.

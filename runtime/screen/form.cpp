@@ -40,7 +40,7 @@ void Form::Unload() {
   loaded_ = false;
   showing_ = false;
   active_ = wanted_ = held_ = nullptr;
-  // The window closes whatever Form_Unload does.
+  // The window closes even if Form_Unload fails.
   struct Farewell {
     Form& form;
     ~Farewell() {

@@ -9,8 +9,8 @@ namespace {
 
 /// The parts of a mask for numbers.
 struct NumberMask {
-  std::string_view before, behind;  ///< literal text
-  int leastWhole = 0;               ///< minimum number of digits before the point
+  std::string_view before, after;  ///< literal text
+  int leastWhole = 0;              ///< minimum number of digits before the point
   int leastPlaces = 0, mostPlaces = 0;
   bool grouped = false;
 
@@ -19,7 +19,7 @@ struct NumberMask {
     const auto first = std::min(mask.find_first_of("0#."), mask.size());
     const auto last = first < mask.size() ? mask.find_last_of(kPlaces) + 1 : first;
     before = mask.substr(0, first);
-    behind = mask.substr(last);
+    after = mask.substr(last);
     const std::string_view places = mask.substr(first, last - first);
     const auto point = std::min(places.find('.'), places.size());
     for (const char place : places.substr(0, point)) {
@@ -56,7 +56,7 @@ std::string formatNumber(DecimalDigits number, std::string_view maskText,
   // A mask such as "0.##" leaves no separator if no decimals follow it.
   const int places = std::max(number.places(), mask.leastPlaces);
   if (places > 0) text += regional.decimalSeparator + number.fraction(places);
-  return text.append(mask.behind);
+  return text.append(mask.after);
 }
 
 std::string padded(int number, std::size_t digits) {

@@ -2,8 +2,7 @@
 
 namespace korvantes::screen {
 
-/// Codes of the keys, as KeyUp gets them. Letters and digits have the code of their upper-case
-/// character.
+/// Key codes as KeyUp receives them. Letters and digits have the code of the upper-case character.
 namespace key {
 constexpr int Back = 8, Tab = 9, Enter = 13, Shift = 16, Control = 17, Alt = 18, Escape = 27;
 constexpr int Space = 32, PageUp = 33, PageDown = 34, End = 35, Home = 36;

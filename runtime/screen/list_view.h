@@ -44,7 +44,7 @@ class ListView : public Control {
   /// Ticks or unticks by program, without an event.
   void Checked(std::size_t row, bool value);
 
-  /// Column to sort by, the direction, and whether at all. Sorting compares the texts of the cells
+  /// Column to sort by, direction, and whether to sort. Sorting compares the texts of the cells
   /// with ado::compareTexts; equal rows keep their order. It also applies to rows added later.
   Property<int> SortKey{*this, "SortKey", 0};
   Property<int> SortOrder{*this, "SortOrder", 0};

@@ -46,7 +46,7 @@ class NumberReader {
     if (result.ec != std::errc()) return std::nullopt;
     return number;
   }
-  /// Nothing when it does not fit.
+  /// Empty if it does not fit.
   std::optional<ado::Decimal> exact() const {
     constexpr int kLargestExponent = 30;
     const std::string text = plain();

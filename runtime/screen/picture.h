@@ -26,7 +26,7 @@ class Picture {
   int height() const { return data_->height; }
   const std::any& decoded() const { return data_->decoded; }
 
-  /// Whether they share one picture, not merely an equal one.
+  /// Returns whether both share one picture; equal bytes are not enough.
   friend bool operator==(const Picture& a, const Picture& b) { return a.data_ == b.data_; }
 
  private:

@@ -7,7 +7,7 @@
 
 namespace korvantes::screen {
 
-/// Pixels of the largest picture accepted: a larger one might leave no memory for the rest.
+/// Pixels of the largest picture accepted: a larger one could exhaust the memory.
 constexpr std::int64_t kMostPixels = 20'000'000;
 
 struct PictureSize {

@@ -54,7 +54,7 @@ class PropertyBase {
   std::string_view name_;
 };
 
-/// Owner of properties: finds them by name and is told when they change.
+/// Owner of properties: finds them by name and is notified of changes.
 class PropertyOwner {
  public:
   virtual ~PropertyOwner() = default;
@@ -77,8 +77,8 @@ std::string printValue(const std::string& value);
 std::string printValue(const Font& value);
 std::string printValue(Alignment value);
 
-/// A property: `box.Text = "x"` sets it and tells its owner if the value is new;
-/// `box.Text()` reads it.
+/// A property: `box.Text = "x"` sets it and notifies the owner if the value is new; `box.Text()`
+/// reads it.
 template <class T>
 class Property : public PropertyBase {
  public:

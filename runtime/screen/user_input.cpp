@@ -11,7 +11,7 @@ namespace korvantes::screen {
 
 namespace {
 
-/// Handlers that pass the focus back and forth endlessly are cut off after this many moves.
+/// Handlers that pass the focus back and forth endlessly are stopped after this many moves.
 constexpr int kMostFocusMoves = 50;
 
 void report(const Form& form, const std::exception& problem) {
@@ -42,7 +42,7 @@ bool UserInput::event(const std::function<void()>& handler) {
   return open;
 }
 
-/// Carries out what the handlers have left to do once the outermost has ended.
+/// Carries out what handlers have left to do, once the outermost one has ended.
 void UserInput::settle() {
   if (form_.handlerDepth_ > 0) return;
   for (int moves = 0; form_.loaded_ && moves < kMostFocusMoves; ++moves) {
@@ -86,7 +86,7 @@ bool UserInput::giveFocus(Control& target) {
       if (!run(old->LostFocus)) return false;
     }
     Control* const redirected = std::exchange(form_.wanted_, wantedBefore);
-    // Input that arrived meanwhile may have put the focus somewhere already.
+    // Input that arrived in between may already have moved the focus.
     if (form_.active_ != nullptr) return form_.active_ == &target;
     if (redirected != nullptr && redirected->canTakeFocus())
       aim = redirected;

@@ -30,8 +30,8 @@ namespace korvantes::screen {
 /// the form.
 ///
 /// An exception that leaves a handler becomes a critical message box with its text, under the
-/// form's caption; the form stays usable. Nothing happens on a control that is not usable: the
-/// functions then return False. A form unloaded inside a handler gets no further events.
+/// form's caption; the form stays usable. Actions on a control that is not usable do nothing and
+/// return False. A form unloaded inside a handler gets no further events.
 class UserInput {
  public:
   explicit UserInput(Form& form) : form_(form) {}
@@ -61,7 +61,7 @@ class UserInput {
   bool selectRow(DataGrid& grid, std::size_t row);
   /// Columns count from 0; only where the column has a button and there is a current row.
   bool pressCellButton(DataGrid& grid, int column);
-  /// The frame button of the window, Alt+F4.
+  /// The window's close button, Alt+F4.
   void close();
 
  private:

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kRowsOfAPage = 10;
 
-/// Where a key leads in a list of `count` rows; empty for a key that does not move, and if there
-/// are no rows. A cursor of -1 is before the first row.
+/// Target row of a key in a list of `count` rows; empty for a key that does not move and for an
+/// empty list. A cursor of -1 is before the first row.
 std::optional<int> rowAfter(int code, int cursor, int count) {
   if (count == 0) return std::nullopt;
   const auto within = [&](int row) { return std::clamp(row, 0, count - 1); };
