@@ -8,7 +8,7 @@ namespace korvantes::plindor {
 
 namespace {
 
-/// True if the text begins with the word WHERE and goes on after it.
+/// True if the text begins with the word WHERE followed by something.
 bool esCondicion(std::string_view texto) {
   constexpr std::string_view kWhere = "WHERE";
   texto = ado::trimmed(texto);

@@ -10,7 +10,7 @@ namespace korvantes::plindor {
 /// The columns of a statement that is being built.
 class ListaCampos {
  public:
-  /// Type of a value, which decides how it is written; see AgregaCampo.
+  /// Type of a value; decides how it is written, see AgregaCampo.
   enum Tipo : long { Entero = 1, Doble = 2, Texto = 3, Fecha = 4, Literal = 6 };
 
   struct Campo {

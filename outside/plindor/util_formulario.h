@@ -18,11 +18,11 @@ class UtilFormulario {
   double ColorFoco = 65535;
   double ColorNormal = 16777215;
 
-  /// The connection that BuscaEnLista searches. It stays open for as long as this object lives,
-  /// whatever becomes of the service it came from.
+  /// The connection that BuscaEnLista searches. It stays open while this object lives, even if the
+  /// service it came from is gone.
   void Conexion(std::shared_ptr<ado::Connection> conexion) { conexion_ = std::move(conexion); }
 
-  /// Check letter of a Spanish tax number (NIF): the number modulo 23, as an index into
+  /// Check letter of a Spanish tax number (NIF): the number modulo 23 as an index into
   /// "TRWAGMYFPDXBNJZSQVHLCKE". Only digits count; a leading X, Y or Z means 0, 1, 2. Returns
   /// sVacio for no digits or more than eight, which have no letter.
   std::string LetraNif(const std::string& sNif, const std::string& sVacio) const;
@@ -35,13 +35,13 @@ class UtilFormulario {
 
   /// Shows the field as unfocused. A mask then reformats its text: "dd/mm/yyyy" takes eight or six
   /// bare digits (ddmmyyyy, ddmmyy) or a date with separators, "0.000" and the like take a number.
-  /// Any other text, and the empty one, is left unchanged.
+  /// Any other text, including the empty one, is left unchanged.
   void AlPerderFoco(screen::TextBox& oControl, std::string_view sFormato) const;
   /// Shows the field as focused.
   void AlRecibirFoco(screen::TextBox& oControl, std::string_view sFormato) const;
 
-  /// After a change of the text, removes what the key filter would not have let in (pasted text,
-  /// for instance). bFlag True: everything but digits. False: everything but digits and one decimal
+  /// After a change of the text, removes what the key filter would have refused (pasted text, for
+  /// instance). bFlag True: everything but digits. False: everything but digits and one decimal
   /// separator. Does nothing unless the field has the focus: a stored value that the program shows
   /// stays whole, so that saving it again loses nothing. nEstado and sVacio belong to the handler
   /// and are not used.
