@@ -14,7 +14,7 @@ constexpr long kOverflow = 6;
 constexpr std::string_view kSelecciona = "SELECT ";
 constexpr std::string_view kComoComision = " AS Comision ";
 
-/// What differs from one document family to the other.
+/// The parts that differ between the document families.
 struct Familia {
   std::string_view menosDescuento1;
   std::string_view menosDescuento2;

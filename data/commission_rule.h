@@ -21,7 +21,7 @@ std::string sentenciaComision(std::int16_t nOrigen, std::int32_t nId, std::int32
 /// the one about an empty statement; ado::Error of kind Overflow if the sum does not fit.
 ado::Decimal comisionExacta(ado::Connection& conexion, std::int16_t nOrigen, std::int32_t nId,
                             std::int32_t nIdLi);
-/// The double nearest to it.
+/// The double nearest to that sum.
 double comisionAgente(ado::Connection& conexion, std::int16_t nOrigen, std::int32_t nId,
                       std::int32_t nIdLi);
 

@@ -34,10 +34,10 @@ std::string settledStatement(std::int32_t settlement);
 struct ListedNote {
   std::int32_t id = 0;      ///< Cav_Id
   ado::Decimal amount;      ///< its net, 0 without lines
-  ado::Decimal commission;  ///< what goes into the base of its settlement
+  ado::Decimal commission;  ///< its share of the settlement's base
 };
 
-/// That of the current row of one of the two lists. Sends one statement, for the commission.
+/// Reads the current row of either list. Sends one statement, for the commission.
 ListedNote listedNote(ado::Connection& connection, const ado::Recordset& row);
 
 }  // namespace korvantes::data

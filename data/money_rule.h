@@ -6,22 +6,22 @@
 
 namespace korvantes::data {
 
-// The rule from which every amount comes, as exact arithmetic. data/money_rule_sql.h has the same
-// rule as the texts that a database server runs.
+// The rule behind every amount, in exact arithmetic. data/money_rule_sql.h has the same rule in
+// SQL.
 //
 // Each stage goes to money (four decimals) and from there to cents, halves away from zero both
 // times: 1.00496 becomes 1.0050 and then 1.01. Amounts and percentages may have any scale; results
-// are in cents. Null in, Null out. All of them throw ado::ConversionError for a value that does not
-// fit 64 bits.
+// are in cents. Null in, Null out. Every function throws ado::ConversionError for a value that does
+// not fit 64 bits.
 
 using OptionalDecimal = std::optional<ado::Decimal>;
 
-/// What two cascading header discounts, in percent, leave of the amount of a line: the second
-/// applies to what the first leaves.
+/// The amount of a line less two cascading header discounts, in percent: the second applies to what
+/// the first leaves.
 OptionalDecimal lineNet(const OptionalDecimal& amount, const OptionalDecimal& discount1,
                         const OptionalDecimal& discount2);
 
-/// Commission of a line: a percentage of its net. 0 where anything is Null.
+/// Commission of a line: a percentage of its net. 0 if anything is Null.
 ado::Decimal lineCommission(const OptionalDecimal& amount, const OptionalDecimal& discount1,
                             const OptionalDecimal& discount2, const OptionalDecimal& commission);
 

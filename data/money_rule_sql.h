@@ -5,23 +5,23 @@
 
 namespace korvantes::data::sql {
 
-// The rule of data/money_rule.h as the fragments of which statements are made. The rounding is the
-// server's: CAST to money, then ROUND to cents, at every stage. Fragments are sent as they are
-// written, with their blanks.
+// The rule of data/money_rule.h as fragments of statements. The server does the rounding: CAST to
+// money, then ROUND to cents, at every stage. Fragments are sent unchanged, including their blanks.
 
-/// Net of a delivery note's line: the amount less discount 1, then less discount 2 of what is left,
-/// for which that is worked out again. Both together are one expression between brackets.
+/// Net of a delivery note line: the amount less discount 1, then less discount 2 of the remainder,
+/// which the second fragment computes again. Concatenated, they are one parenthesised expression.
 extern const std::string_view kNoteLineLessDiscount1, kNoteLineLessDiscount2;
-/// The same of an order's line.
+/// The same for an order line.
 extern const std::string_view kOrderLineLessDiscount1, kOrderLineLessDiscount2;
 
-/// The commission on a net amount that stands before it.
+/// Follows a net amount: the commission on it.
 extern const std::string_view kTimesNoteCommission, kTimesOrderCommission;
 
-/// Around a commission: to cents, Null as 0. What follows the closing one names the column.
+/// Enclose a commission: rounded to cents, Null as 0. The name of the column follows the closing
+/// one.
 extern const std::string_view kOpenCommission, kCloseCommission;
 
-/// The net of a delivery note's line, and the commission on it in cents, as whole expressions.
+/// The net of a delivery note line, and the commission on it in cents, as complete expressions.
 std::string noteLineNet();
 std::string noteLineCommission();
 

@@ -22,14 +22,14 @@ struct SettlementToCheck {
   std::string sumFailure{};    ///< why the amounts could not be computed; empty if they could
 };
 
-/// The first check that fails, in their order; nothing if the settlement may be saved.
+/// The first check that fails; empty if the settlement may be saved.
 std::optional<Refusal> refusalOf(const SettlementToCheck& settlement);
 /// The sentence for the user.
 std::string wordsOf(Refusal refusal, const SettlementToCheck& settlement);
-/// True if another settlement date mends it.
+/// True if another settlement date can fix it.
 bool concernsDate(Refusal refusal);
 
-/// What has to be confirmed before a save; a program that cannot ask takes it as a refusal.
+/// What the user must confirm before a save; a program that cannot ask treats it as a refusal.
 struct Question {
   bool removes = false;  ///< yes removes the stored settlement
   std::string words;
@@ -39,10 +39,10 @@ struct Question {
 std::optional<Question> questionAboutAgent(std::int32_t listed, std::int32_t agent,
                                            const std::string& name);
 
-/// A stored settlement with delivery notes that the list cannot show, as they are gone or have
-/// lost their invoice or customer, or without any: saved as listed, it loses those notes, and
-/// disappears if nothing is marked. No question where the user unmarked every note himself. Sends
-/// one statement.
+/// Asks about a stored settlement that has no delivery notes, or some that the list cannot show
+/// because they, their invoice or their customer are gone: saving it drops those notes, and removes
+/// the settlement if nothing is marked. Does not ask if the user unmarked every note. Sends one
+/// statement.
 std::optional<Question> questionAboutHiddenNotes(ado::Connection& connection,
                                                  std::int32_t settlement, std::size_t listed,
                                                  bool anyMarked);

@@ -12,7 +12,7 @@ constexpr const char* kOfHeader = " WHERE Lca_Id=";
 
 constexpr int kDecimals = 2;
 
-/// Raised when the database service answers False; its words are not shown.
+/// Thrown when the database service returns False; its message is not shown.
 constexpr long kOwnError = 999;
 constexpr const char* kOwnErrorWords = "Error definido por la aplicación o el objeto";
 

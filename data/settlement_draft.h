@@ -27,7 +27,7 @@ struct NoteToSettle {
   std::string name;     ///< series and number, for messages: "A/17"
 };
 
-/// A settlement as it is to be stored.
+/// A settlement to be stored.
 struct SettlementDraft {
   std::int32_t replaces = 0;  ///< stored settlement that it replaces; 0 for none
   std::int32_t agent = 0;     ///< Age_Id
@@ -38,7 +38,7 @@ struct SettlementDraft {
   std::string remarks;
   ado::Decimal vatPercent, withholdingPercent;
   SettlementAmounts amounts;
-  std::vector<NoteToSettle> notes;  ///< none: nothing is stored, what it replaces is removed
+  std::vector<NoteToSettle> notes;  ///< if empty, nothing is stored and what it replaces is removed
 };
 
 }  // namespace korvantes::data

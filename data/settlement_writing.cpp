@@ -16,7 +16,7 @@ constexpr const char* kDeleteDetails = "delete from Lcd where Lcd_IdLca=";
 constexpr const char* kDeleteHeader = "delete from Lca where Lca_Id=";
 constexpr const char* kNewest = "Select max(Lca_id) from Lca";
 constexpr const char* kMarkNote = "Update Cav set Cav_IdLca = ";
-/// Follows the number without a blank: the server reads two words.
+/// Follows the number without a blank; the server still reads two words.
 constexpr const char* kWhereNote = "where cav_id = ";
 constexpr const char* kSettlementOf = "Select Lcd_IdLca from Lcd where Lcd_IdCav = ";
 
@@ -38,7 +38,7 @@ std::string beginningOf(Step step) {
   return {};
 }
 
-/// Which settlement has the note, where one of another user does.
+/// Names the settlement that already has the note; empty if there is none.
 std::string alreadySettled(ado::Connection& connection, const NoteToSettle& note) {
   try {
     const ado::Recordset found = connection.Execute(kSettlementOf + std::to_string(note.id));

@@ -10,8 +10,8 @@
 
 namespace korvantes::data {
 
-// The steps of a save and of a deletion. The caller opens the transaction around them and commits
-// it, or rolls it back after a failure: they change either everything or nothing.
+// The steps of a save and of a deletion. The caller opens the transaction around them, and commits
+// it or, after a failure, rolls it back: all or nothing.
 
 /// A step of a save that failed, in a sentence for the user.
 class SaveFailure : public std::runtime_error {
@@ -29,20 +29,20 @@ class SaveFailure : public std::runtime_error {
   Step step_;
 };
 
-/// The sentence for the user after whatever made a save fail.
+/// The sentence for the user after any failure of a save.
 std::string saveFailureWords(const std::exception& failure);
 
-/// Removes a stored settlement that is about to be written anew, and frees its delivery notes.
-/// Throws SaveFailure if it is no longer there.
+/// Removes a stored settlement before it is rewritten, and frees its delivery notes. Throws
+/// SaveFailure if it no longer exists.
 void removeReplaced(ado::Connection& connection, std::int32_t settlement);
 
 /// Writes header, details and the number into each delivery note; the draft has at least one.
-/// @return the number of the new settlement
-/// Throws SaveFailure, or the error of a value that is none of its column's type.
+/// @return the number of the new settlement Throws SaveFailure, or the error for a value of the
+/// wrong type for its column.
 std::int32_t writeSettlement(plindor::BaseDatos& service, const SettlementDraft& draft);
 
-/// Deletes a stored settlement and frees its delivery notes. Throws an ado::Error of kind Gone if
-/// there is nothing of it left.
+/// Deletes a stored settlement and frees its delivery notes. Throws ado::Error of kind Gone if
+/// nothing of it is left.
 void deleteSettlement(plindor::BaseDatos& service, std::int32_t settlement);
 
 }  // namespace korvantes::data

@@ -5,13 +5,13 @@
 
 namespace korvantes::data {
 
-// What a statement takes as the text that it is. Both give the text back unchanged, or throw
+// Checks for text that goes into a statement unquoted. Both return the text unchanged, or throw
 // ado::ConversionError if it is anything else.
 
-/// Digits of a code, without a sign.
+/// A code: digits without a sign.
 std::string digitsOf(std::string_view text);
 
-/// A date that exists, dd/mm/yyyy or another form that a date field takes.
+/// A date that exists, dd/mm/yyyy or in another form that a date field accepts.
 std::string dateOf(std::string_view text);
 
 }  // namespace korvantes::data

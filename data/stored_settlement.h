@@ -7,11 +7,11 @@
 
 namespace korvantes::data {
 
-/// The header of a stored settlement with its agent's name, Age_Nom. No row if the settlement, or
-/// its agent, no longer exists.
+/// The header of a stored settlement with its agent's name, Age_Nom. Empty if the settlement or its
+/// agent no longer exists.
 ado::Recordset storedSettlement(ado::Connection& connection, std::int32_t settlement);
 
-/// Why storedSettlement found none, in a sentence for the user.
+/// Explains to the user why storedSettlement found none.
 std::string whyNotFound(ado::Connection& connection, std::int32_t settlement);
 
 /// How many delivery notes a stored settlement has, including those that settledStatement leaves
