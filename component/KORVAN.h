@@ -19,22 +19,22 @@ namespace korvantes {
 /// dlopen calls them without linking it; library/factory.h has the rules.
 class KORVAN {
  public:
-  /// A new object, which also becomes the module's oComponente: from now on every screen works on
-  /// its database service, also those opened through an older object.
+  /// A new object, which also becomes the module's oComponente: from now on every screen uses its
+  /// database service, even if opened through an older object.
   static std::shared_ptr<KORVAN> Create();
 
   KORVAN(const KORVAN&) = delete;
   KORVAN& operator=(const KORVAN&) = delete;
 
-  /// Replaces the database service. A screen that is already open keeps the former one alive for
-  /// its search dialog until it is closed; everything else uses the new one from now on.
+  /// Replaces the database service. A screen that is already open keeps the previous one for its
+  /// search dialog until it closes; everything else uses the new one.
   virtual void MyBd(std::shared_ptr<plindor::BaseDatos> servicio) = 0;
-  /// What was set; nullptr before that.
+  /// Returns the database service; nullptr if none has been set.
   virtual std::shared_ptr<plindor::BaseDatos> MyBd() const = 0;
 
   /// Open a screen modally: the agent master, the settlement entry on an empty settlement, the
-  /// settlement report. Return when the user has closed it. Each call makes a fresh form.
-  /// @param nAgente has no effect: the agent master always opens on the whole list
+  /// settlement report. Return when the user has closed it. Each call creates a new form.
+  /// @param nAgente ignored: the agent master always opens on the whole list
   virtual void jShow(const std::int32_t& nAgente = 0) = 0;
   virtual void jShowNewLiqui() = 0;
   virtual void jShowInfLiqui() = 0;

@@ -25,8 +25,8 @@ screen::MessageBox avisoDe(const std::string& texto) {
   return {texto, screen::style::Plain, std::string(screen::Desktop::kDefaultTitle)};
 }
 
-/// The words of a failure without the path of the temporary file, which means nothing to the user:
-/// "No se puede escribir el fichero de la imagen: el disco está lleno".
+/// A failure's message without the path of the temporary file, which means nothing to the user: "No
+/// se puede escribir el fichero de la imagen: el disco está lleno".
 std::string sinRuta(std::string texto, const std::string& ruta) {
   const auto lugar = texto.find(ruta);
   return lugar == std::string::npos ? texto : texto.replace(lugar, ruta.size(), "de la imagen");

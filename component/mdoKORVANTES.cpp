@@ -10,7 +10,7 @@ namespace {
 /// The runtime's number for an object reference that was never set.
 constexpr long kReferenceNotSet = 91;
 
-/// Seen by this file alone, so that nothing but Class_Initialize can write it.
+/// Local to this file, so that only Class_Initialize can write it.
 std::shared_ptr<KORVAN>& componente() {
   static std::shared_ptr<KORVAN> objeto;
   return objeto;

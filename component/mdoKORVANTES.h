@@ -10,8 +10,8 @@
 
 namespace korvantes::mdoKORVANTES {
 
-/// The KORVAN object most recently made in the process. Written by its Class_Initialize alone and
-/// never cleared, so that it holds the object as long as the library stays loaded.
+/// The KORVAN object most recently made in the process. Only Class_Initialize writes it, and it is
+/// never cleared: the object lives as long as the library stays loaded.
 const std::shared_ptr<KORVAN>& oComponente();
 
 /// MyBd of oComponente, fetched anew at each call. Throws ado::Error if there is no object or no
@@ -21,18 +21,18 @@ std::shared_ptr<plindor::BaseDatos> MyBd();
 /// MyBd of that object. Throws ado::Error if none has been set yet.
 std::shared_ptr<plindor::BaseDatos> servicioDe(const KORVAN& componente);
 
-/// The connection of the service of oComponente, for one statement: nothing keeps it open.
+/// The connection of oComponente's service, for one statement: nothing keeps it open.
 ado::Connection& Conexion();
 
-/// The same, together with its service, for as long as the pointer lives: what a screen keeps from
-/// its Form_Load on, whatever the host sets in the meantime.
+/// The same connection, kept open with its service while the pointer lives. A screen holds it from
+/// Form_Load on, whatever the host sets later.
 std::shared_ptr<ado::Connection> ConexionRetenida();
 
 /// Version of the library, "6.0.3".
 const char* version();
 
-/// Rolls a transaction back after a failure. Returns what the user must know if that fails too,
-/// after a line break; otherwise the empty text.
+/// Rolls a transaction back after a failure. If that fails too, returns a line break and a message
+/// for the user; otherwise empty.
 std::string deshaz(ado::Transaction& transaccion);
 
 /// Completes a tax number with its check letter, as the agent master does: a text that begins with

@@ -11,8 +11,8 @@ bool esNumerico(std::string_view caracter) {
   return screen::IsNumeric(caracter);
 }
 
-/// Pasted texts come with blanks around them; a blank after a complete number would be taken for
-/// its letter, and a second letter would be added.
+/// Pasted text may have blanks around it; a blank after a complete number would be taken for its
+/// letter, and a second letter added.
 std::string_view sinBlancos(std::string_view texto) {
   const std::u32string caracteres = ado::toCodePoints(texto);
   constexpr std::u32string_view kBlancos = U" \t\u00A0";

@@ -12,7 +12,8 @@ namespace {
 
 constexpr const char* kLastPlace = "/tmp";
 
-/// A folder of the user or the system's own, in which others cannot rename what is not theirs.
+/// True for a folder of the user or the system in which others cannot rename files that are not
+/// theirs.
 bool isSafe(const char* place) {
   struct stat state {};
   if (place[0] != '/' || ::stat(place, &state) != 0 || !S_ISDIR(state.st_mode)) return false;
@@ -29,7 +30,7 @@ ado::TemporaryFolder makePrivateFolder() {
     try {
       return ado::TemporaryFolder(place);
     } catch (const ado::Error&) {
-      // A full or read-only place; the next one may do.
+      // Full or read-only; try the next place.
     }
   }
   return ado::TemporaryFolder(kLastPlace);

@@ -16,8 +16,8 @@ namespace korvantes {
 /// A screen that begins with an agent: what the settlement entry and the settlement search share.
 ///
 /// Its text boxes are the array Text1 of the derived class, the agent's code and name first. Enter
-/// moves through them as Tab does; a Tag that is not empty marks the Enter that closed a message
-/// box, which moves nothing.
+/// moves through them as Tab does; a non-empty Tag marks the Enter that closed a message box, which
+/// must not move the focus.
 class SearchForm : public screen::Form {
  public:
   void Form_KeyUp(int& keyCode, int shift) override;
@@ -26,7 +26,7 @@ class SearchForm : public screen::Form {
   static constexpr int kCodigo = 0, kNombre = 1;
 
   using Cajas = screen::ControlArray<screen::TextBox>;
-  /// @param cajas Text1 of the derived class; kept, not used before wireBoxes
+  /// @param cajas Text1 of the derived class; kept, but not used before wireBoxes
   /// @param fechas indexes of its date fields
   SearchForm(std::string name, const Cajas& cajas, std::vector<int> fechas);
 
@@ -48,25 +48,24 @@ class SearchForm : public screen::Form {
     const char* titulo;
     long anchoCodigo, anchoNombre;  ///< twips
   };
-  /// The agent that the user chooses in the search dialog; nothing if none was chosen.
+  /// The agent that the user chooses in the search dialog; empty if the user cancels.
   struct Elegido {
     std::int32_t codigo;
     std::string nombre;
   };
   std::optional<Elegido> eligeAgente(const ListaAgentes& lista) const;
 
-  /// The code that a text of nothing but digits stands for; nothing for any other text, or if it
-  /// does not fit a Long.
+  /// The code in a text of digits; empty for any other text, or if it does not fit a Long.
   static std::optional<std::int32_t> codigoDe(std::string_view texto);
   /// Forgets the agent found before: nIdAgente and the name.
   virtual void olvidaAgente();
   /// Says that Text1(0) holds no valid code, forgets the agent, and gives the focus to the box.
   void avisaCodigoNoValido(std::string_view titulo = screen::Desktop::kDefaultTitle);
 
-  /// Shows a message; the Enter that closes it will move nothing.
+  /// Shows a message; the Enter that closes it does not move the focus.
   void avisa(const std::string& texto, int estilo = screen::style::Exclamation,
              std::string_view titulo = screen::Desktop::kDefaultTitle);
-  /// The same, and gives the focus to the box that it is about.
+  /// The same, and gives the focus to the box it is about.
   void avisaEn(screen::TextBox& caja, const std::string& texto,
                int estilo = screen::style::Exclamation,
                std::string_view titulo = screen::Desktop::kDefaultTitle);
