@@ -48,7 +48,7 @@ void frmNewLiquidAgentes::Text1_LostFocus(int index) {
     try {
       msCargaIva();
     } catch (...) {
-      // Amounts of the former rates must not stay beside the empty ones.
+      // Amounts at the old rates must not remain next to empty rates.
       msCalculaTotales();
       throw;
     }

@@ -1,6 +1,6 @@
 // settlement: the screen on which one settlement of commissions is made, changed, deleted and
-// printed. Each procedure is in a file of its own, named after it; positions, captions and colours
-// are in frmNewLiquidAgentes_layout.cpp. What needs no screen is in data/.
+// printed. Each procedure is in its own file, named after it; positions, captions and colours are
+// in frmNewLiquidAgentes_layout.cpp. What does not need the screen is in data/.
 #pragma once
 
 #include <cstdint>
@@ -22,12 +22,12 @@ class frmNewLiquidAgentes : public SearchForm {
  public:
   frmNewLiquidAgentes();
 
-  /// Lca_Id of the settlement on screen, 0 for a new one. A save that ends well sets it to 0.
+  /// Lca_Id of the settlement on screen, 0 for a new one. A successful save sets it to 0.
   std::int32_t nLiqui = 0;
 
-  /// Puts the settlement nLiqui on the screen. True if it was found; with nLiqui 0, or for a
-  /// settlement that cannot be shown, which the user is told, the screen stays empty and the result
-  /// is False. Errors of the connection pass through.
+  /// Shows the settlement nLiqui. Returns True if it was found. With nLiqui 0, or if it cannot be
+  /// shown (a message says so), the screen stays empty and the result is False. Errors of the
+  /// connection propagate.
   bool msCargaLiquidacion();
 
   void Form_Load() override;
@@ -57,10 +57,10 @@ class frmNewLiquidAgentes : public SearchForm {
   void ListView1_ColumnClick(int columnIndex);
   void ListView1_ItemCheck();
 
-  /// Looks an agent up; 0 asks the user. Gives back the code chosen, 0 for none.
+  /// Looks an agent up; 0 asks the user. Returns the code chosen, 0 for none.
   void msBuscarAgente(std::int32_t& nAgente);
-  /// Puts the rates in force on the settlement date on the screen. If they cannot be read, the
-  /// boxes stay empty, sFalloTasas says why, and the error passes through.
+  /// Shows the rates in force on the settlement date. If they cannot be read, the boxes stay empty,
+  /// sFalloTasas says why, and the error propagates.
   void msCargaIva();
   void msBuscarFacturas();
   void msCalculaTotales();
@@ -78,8 +78,8 @@ class frmNewLiquidAgentes : public SearchForm {
   void muestra(int index, const ado::Decimal& importe);
   bool hayMarcadas() const;
 
-  /// What the checks before a save say: whether to go on, and whether the user agreed that the
-  /// stored settlement is removed.
+  /// Result of the checks before a save: whether to go on, and whether the user agreed to remove
+  /// the stored settlement.
   struct Comprobacion {
     bool bSigue = false;
     bool bEliminar = false;
@@ -90,10 +90,10 @@ class frmNewLiquidAgentes : public SearchForm {
   struct Guardado {
     std::int32_t nAnterior;  ///< nLiqui before it
     std::int32_t nNueva;     ///< 0 if nothing was written
-    bool bNoMostrada;        ///< nAnterior could not be shown, and was left alone
-    bool bEliminar;          ///< the user agreed that nAnterior is removed
+    bool bNoMostrada;        ///< nAnterior could not be shown and was left unchanged
+    bool bEliminar;          ///< the user agreed to remove nAnterior
   };
-  /// Prints the new settlement if that is wanted, and says what was done.
+  /// Prints the new settlement if requested, and reports what was done.
   void anunciaGuardado(const Guardado& guardado);
   void imprimeLiquidacion(std::int32_t nNueva);
   /// Shows the report of a stored settlement and returns when it is closed. Throws what the report
@@ -105,9 +105,9 @@ class frmNewLiquidAgentes : public SearchForm {
   /// Agent whose delivery notes are listed; the code on screen can change later through F1.
   std::int32_t nAgenteLista = 0;
   bool bCargada = false;  ///< a stored settlement was put on the screen
-  /// Why the rates on screen are unknown; empty after a lookup that went well.
+  /// Why the rates on screen are unknown; empty after a successful lookup.
   std::string sFalloTasas;
-  /// Why the amounts on screen are unknown; empty after a computation that went well.
+  /// Why the amounts on screen are unknown; empty after a successful computation.
   std::string sFalloImportes;
   ado::Recordset rsAlb;
   bool bOrdenLista = false;

@@ -37,7 +37,7 @@ void frmNewLiquidAgentes::msBuscarAgente(std::int32_t& nAgente) {
   }
   if (nAgente == 0) return;
 
-  // If the lookup fails, nothing of the previous agent may be left.
+  // If the lookup fails, nothing of the previous agent may remain.
   olvidaAgente();
   nRegimen = kRegimenSinLeer;
   ado::Recordset rsAgente = mdoKORVANTES::Conexion().Execute(

@@ -12,7 +12,7 @@ void frmNewLiquidAgentes::cmbBuscarFacturas_Click() {
     Text1(kCodigo).SetFocus();
     return;
   }
-  // Code and limit date go into the statement as they are. Notes of agent 0 have no agent.
+  // Code and limit date go into the statement unchanged. Notes of agent 0 have no agent.
   if (codigoDe(Text1(kCodigo).Text()).value_or(0) == 0) return avisaCodigoNoValido();
   if (!Text1(kHastaFecha).Text().empty() && !screen::IsDate(Text1(kHastaFecha).Text()))
     return avisaEn(Text1(kHastaFecha), "La fecha límite no es válida");
@@ -20,7 +20,7 @@ void frmNewLiquidAgentes::cmbBuscarFacturas_Click() {
 }
 
 void frmNewLiquidAgentes::msBuscarFacturas() {
-  // As they were checked: the pending events below may change the boxes.
+  // Copies of what was checked: the pending events below may change the boxes.
   data::PendingFilter filtro;
   filtro.agent = Text1(kCodigo).Text();
   filtro.until = Text1(kHastaFecha).Text();

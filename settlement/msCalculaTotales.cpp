@@ -30,7 +30,7 @@ void frmNewLiquidAgentes::msCalculaTotales() {
         data::settlementAmounts(base, exactoEn(kPorIva), exactoEn(kPorRetencion));
     muestra(kIva, importes.vat);
     muestra(kRetencion, importes.withholding);
-    // From the texts, as they are what is stored.
+    // From the texts, because these are stored.
     muestra(kTotal, exactoEn(kBase) + exactoEn(kIva) - exactoEn(kRetencion));
   } catch (const std::exception& fallo) {
     sFalloImportes = fallo.what();

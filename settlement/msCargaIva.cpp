@@ -20,7 +20,7 @@ void frmNewLiquidAgentes::msCargaIva() {
   Text1(kPorRetencion).Text = "";
   try {
     ado::Connection& conexion = mdoKORVANTES::Conexion();
-    // Nothing has read it yet for the agent of a stored settlement.
+    // Not read yet for the agent of a stored settlement.
     if (nRegimen == kRegimenSinLeer || (bCargada && nRegimen == 0))
       nRegimen = data::regimeOf(conexion, codigoDe(Text1(kCodigo).Text()).value_or(0));
 
