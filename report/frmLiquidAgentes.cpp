@@ -96,7 +96,7 @@ void frmLiquidAgentes::dbgLiqui_ButtonClick(int columnIndex) {
     oFrm.nLiqui = rs.Collect("Lca_Id").asLong();
     oFrm.Show(kModal);
   }
-  // The rows may tell of what is no longer there; a search that a wrong date stops leaves none.
+  // The rows may be out of date, and the search clears nothing if it stops at an invalid date.
   retiraResultado();
   msBuscarLiquidaciones();
   screen::DoEvents();

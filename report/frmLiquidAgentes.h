@@ -20,9 +20,9 @@ class frmLiquidAgentes : public SearchForm {
  public:
   frmLiquidAgentes();
 
-  /// Searches with the filters on screen and shows the result. An invalid date is
-  /// reported and gets the focus, and nothing else changes. Errors of the connection are passed
-  /// on; the screen then shows no result.
+  /// Searches with the filters on screen and shows the result. An invalid date is reported and gets
+  /// the focus, and nothing else changes. Errors of the connection propagate; the screen then shows
+  /// no result.
   void msBuscarLiquidaciones();
 
   void Form_Load() override;
@@ -49,17 +49,17 @@ class frmLiquidAgentes : public SearchForm {
   void msBuscarAgente(const std::int32_t& nCodigo);
   void buscaPorNombre() override;
 
-  /// True when both limits are empty or dates; else tells of the first that is neither.
+  /// True if both limits are empty or dates; otherwise reports the first that is neither.
   bool compruebaFechas();
-  /// Takes the last result off the screen.
+  /// Clears the last result.
   void retiraResultado();
   report::Filtros filtros() const;
   report::Forma forma() const;
   /// "Primera y 31/12/2026": the limits of the date on screen.
   std::string textoRango() const;
 
-  std::string sSqlLiqui;  ///< the statement in work
-  std::string sCriterio;  ///< what the search leaves for the report
+  std::string sSqlLiqui;  ///< the statement being built
+  std::string sCriterio;  ///< set by the search for the report
   ado::Recordset rs;      ///< the result that dbgLiqui shows
 
   // From back to front. The shape hides Label1(1).

@@ -67,16 +67,16 @@ ado::Variant recortado(const ado::Variant& valor) {
 
 /// Joins the rows of one invoice, agent and settlement date.
 ///
-/// Rows of one key have equal values in every column of the statement's order. They are neighbours
-/// but for rows of other keys with which they tie: two agents of one name come mixed with one
-/// another. Whether two texts tie is up to the engine's collation, so a run of ties is taken to end
-/// where a date or the number of the invoice changes.
+/// Rows of one key have equal values in every column of the statement's order. They are adjacent
+/// except for rows of other keys that tie with them: two agents of the same name may be
+/// interleaved. Whether two texts tie depends on the engine's collation, so a run of ties is taken
+/// to end where a date or the invoice number changes.
 class Fusion {
  public:
   Fusion(const ado::Recordset& rsFilas, bool bPorFecha, const plindor::UtilFormulario& oUtil)
       : rsFilas_(rsFilas), bPorFecha_(bPorFecha), oUtil_(oUtil) {}
 
-  /// Takes the current row of the statement.
+  /// Adds the current row of the statement.
   void agrega() {
     if (!rs_.isOpen()) prepara();
     const Empate empate{valor(fechaLiquidacion_), valor(fechaFactura_), valor(numeroFactura_)};
@@ -104,14 +104,14 @@ class Fusion {
     rs_.Update();
   }
 
-  /// The invoices, on the last of them; closed without rows.
+  /// The invoices, positioned on the last; closed if there are none.
   ado::Recordset facturas() {
     if (rs_.isOpen()) rs_.MoveLast();
     return rs_;
   }
 
  private:
-  /// What a run of ties has in common, besides texts: both dates and the number of the invoice.
+  /// What a run of ties has in common besides texts: both dates and the invoice number.
   using Empate = std::array<ado::Variant, 3>;
   using Clave =
       std::pair<std::int32_t, std::int32_t>;  ///< invoice and agent; the date is the run's
@@ -120,13 +120,13 @@ class Fusion {
     std::optional<ado::Decimal> comision;
   };
   /// A field of the new recordset and where it comes from, by position: names are looked up once,
-  /// not at every row.
+  /// not for every row.
   struct Copia {
     std::size_t desde, hasta;
     bool recortado;
   };
 
-  /// Past the end, Fields() says that there is no such field.
+  /// Past the end, Fields() reports that there is no such field.
   std::size_t posicionDe(const char* nombre) const {
     return rsFilas_.positionOf(nombre).value_or(rsFilas_.Fields().Count());
   }

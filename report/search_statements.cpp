@@ -27,7 +27,7 @@ constexpr const char* kResumen =
     "SELECT Lca_Id,Age_Nom,Lca_Fecha,Lca_Base,Lca_Iva,Lca_Retencion,Lca_Total "
     "FROM Lca "
     "INNER JOIN Age ON Lca_IdAg = Age_Id ";
-/// Without a leading blank: after an agent's number the server still reads two words.
+/// No leading blank: after an agent's number the server still reads two words.
 constexpr const char* kOrdenaResumen = "ORDER BY ";
 
 // Both detail shapes.

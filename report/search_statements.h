@@ -33,7 +33,7 @@ std::string sentenciaResumen(const std::string& sFiltro, const std::string& sOrd
 ///   agent, date and customer, with the customer first
 std::string sentenciaDetalle(Forma forma, bool bPorFecha, const std::string& sFiltro);
 
-/// Gives no rows, for an empty result.
+/// Returns no rows, for an empty result.
 inline constexpr const char* kSentenciaVacia = "SELECT * FROM Lca WHERE Lca_Id=-1";
 /// Order of the summary.
 inline constexpr const char* kOrdenResumen = "Lca_IdAg,Lca_Fecha";
