@@ -20,7 +20,7 @@ void frmAgentes::cmdImagen_Click() {
   cmdDialogo.FileName = "";
   cmdDialogo.Filter = kFiltro;
   if (!cmdDialogo.ShowOpen()) return;
-  // A file that is not a picture ends here with its message, and the picture on screen stays.
+  // Throws if the file is not a picture; the one on screen stays.
   imgAgente.Picture = screen::Desktop::current().loadPicture(cmdDialogo.FileName());
 }
 

@@ -80,8 +80,7 @@ void frmAgentes::cmdSalvar_Click() {
     std::string texto = fallo.what();
     if (transaccion) texto += mdoKORVANTES::deshaz(*transaccion);
     if (nNuevo != 0 && (bGuardado || estaGuardado(conexion, nNuevo))) {
-      // From now on it is an agent like any other: the next click updates it instead of adding
-      // another.
+      // It is now an agent like any other: the next click updates it instead of adding another.
       txtFields(kCodigo).Text = std::to_string(nNuevo);
       bGuardado = true;
     }

@@ -54,7 +54,7 @@ void frmAgentes::Form_KeyUp(int& keyCode, int /*shift*/) {
 }
 
 // A key pressed in the grid arrives twice, through the form and then through the grid. Once handled
-// it is used up, or Enter would move on two fields and F1 would open its list again.
+// it is consumed, or Enter would move on two fields and F1 would open its list twice.
 void frmAgentes::teclaSoltada(int& keyCode) {
   switch (keyCode) {
     case screen::key::Enter:

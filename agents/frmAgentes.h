@@ -16,9 +16,9 @@ namespace korvantes {
 
 /// Master of the commission agents: browsing, changing, adding, and a picture of each.
 ///
-/// The list rsOper and the fields are bound: whatever moves the list's cursor refills the fields.
-/// The screen is in one of two states, new agent (1) or browsing (4); in both the code in
-/// txtFields(0) alone decides whether a save changes an agent or adds one.
+/// The list rsOper and the fields are bound: any move of the list's cursor refills the fields. The
+/// screen is in one of two states, new agent (1) or browsing (4); in both the code in txtFields(0)
+/// alone decides whether a save changes an agent or adds one.
 class frmAgentes : public screen::Form {
  public:
   frmAgentes();
@@ -60,13 +60,13 @@ class frmAgentes : public screen::Form {
   void msCargaProvincias();
   void msCargaPaises();
   void msCargaRegimenes();
-  /// All three. A list that cannot be read stays empty, and a message says so.
+  /// Loads all three. A list that cannot be read stays empty, with a message.
   void cargaListas();
   /// Reads the list of agents and shows its first row. On an error the previous list stays.
   void msCargaAgentes();
-  /// Moves to the agent or to the last row; to the last row too if the agent is gone.
+  /// Moves to the agent or, with bUltimo or if the agent is gone, to the last row.
   void msPosicionAgente(std::int32_t nId, bool bUltimo = false);
-  /// Moves to the agent when it is listed; otherwise shows the current row again.
+  /// Moves to the agent if it is listed; otherwise shows the current row again.
   bool msExisteAgente(const ado::Variant& nId);
   void msBuscarPorNombre();
   void msEstadoPantalla(int nModo);
@@ -78,12 +78,12 @@ class frmAgentes : public screen::Form {
 
   // Steps of a save. The first asks; the others throw.
   bool confirmaEntrada();
-  /// Says which codes the save would replace with the first entry of their list.
+  /// Warns which codes the save would replace with the first entry of their list.
   void avisaCodigosSinEntrada() const;
   void agregaCampos(plindor::BaseDatos& oDb) const;
   std::int32_t anadeAgente(plindor::BaseDatos& oDb);
   void actualizaAgente(plindor::BaseDatos& oDb, std::int32_t nId);
-  /// Whether the agent just added is in the table, after a failure that leaves it open.
+  /// Whether the agent just added is in the table, after a failure that leaves this unclear.
   bool estaGuardado(ado::Connection& conexion, std::int32_t nId) const;
 
   std::unique_ptr<plindor::UtilFormulario> oUtil;

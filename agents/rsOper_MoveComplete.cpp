@@ -47,7 +47,7 @@ void frmAgentes::rsOper_MoveComplete() {
   seleccionaEntrada(cboRegFiscal, "Régimen fiscal", kCaracteresRegimen, rsOper.Collect("AGE_REG"));
 }
 
-// The filter of the field with the focus treats a stored value as typed: "SW1A 2AA" would become
+// The filter of the focused field would treat a stored value as typed: "SW1A 2AA" would become
 // "12", and be saved.
 void frmAgentes::muestra(screen::TextBox& box, const std::string& guardado) {
   box.Text = guardado;
