@@ -1,4 +1,4 @@
-// Shows the screens. It is above them, so that neither a screen nor the class includes the other.
+// Shows the screens. It is above the screens, so that neither they nor the class include the other.
 #include "agents/frmAgentes.h"
 #include "component/component.h"
 #include "report/frmLiquidAgentes.h"
@@ -12,7 +12,7 @@ constexpr int kModal = 1;
 /// The screen ignores the next release of Enter: it belongs to the key press that opened it.
 constexpr const char* kEnterUsed = "e";
 
-/// Makes a fresh form and destroys it when the user has closed it.
+/// Creates a form and destroys it once the user has closed it.
 template <class Form>
 void muestra() {
   const auto formulario = std::make_unique<Form>();
