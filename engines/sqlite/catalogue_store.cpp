@@ -72,7 +72,7 @@ Savepoint::Savepoint(Database& database)
 }
 
 Savepoint::~Savepoint() {
-  // Not there any more when SQLite gave the whole transaction up by itself.
+  // Already gone if SQLite rolled back the whole transaction on its own.
   if (released_ || !database_->inTransaction()) return;
   try {
     if (outermost_) {
@@ -82,7 +82,7 @@ Savepoint::~Savepoint() {
       database_->run("RELEASE korvantes_definition");
     }
   } catch (const ado::Error&) {
-    // The failure that brought us here is already on its way to the caller.
+    // The caller already gets the failure that led here.
   }
 }
 

@@ -22,14 +22,14 @@ class CatalogueStore {
   void keep(const tsql::TableDefinition& table, std::string_view text);
   void remove(const std::string& database, const std::string& table);
 
-  /// A value that changes with every declaration that any connection makes in either file.
+  /// A value that changes whenever any connection declares something in either file.
   std::pair<std::int64_t, std::int64_t> version();
 
  private:
   Database* database_;
 };
 
-/// Makes several statements one: the destructor undoes them together unless release() was called.
+/// Makes several statements atomic: the destructor undoes them unless release() was called.
 class Savepoint {
  public:
   explicit Savepoint(Database& database);

@@ -87,7 +87,7 @@ void Database::switchToLog(const std::string& schema) {
   using Clock = std::chrono::steady_clock;
   constexpr std::chrono::milliseconds kPause(10);
   const auto end = Clock::now() + std::chrono::milliseconds(busyMilliseconds_);
-  // SQLite does not wait by itself here: of two that open a new file at once, one is refused.
+  // SQLite does not wait here on its own: if two connections open a new file at once, one fails.
   for (;;) {
     try {
       return run("PRAGMA " + schema + ".journal_mode=WAL");
@@ -153,7 +153,7 @@ void Statement::bind(int index, const tsql::StoredValue& value) {
                                  SQLITE_UTF8);
     }
     int operator()(const ado::Bytes& bytes) const {
-      // A null pointer would bind Null in place of no bytes.
+      // A null pointer would bind Null instead of zero bytes.
       if (bytes.empty()) return sqlite3_bind_zeroblob(statement, index, 0);
       return sqlite3_bind_blob64(statement, index, bytes.data(), bytes.size(), SQLITE_STATIC);
     }
@@ -181,7 +181,7 @@ void Transaction::begin() {
     throw ado::Error(kTransactionOpen, "Ya hay una transacción abierta");
   }
   database_->requireInPlace("BEGIN");
-  // Immediate: a second user waits here, not in the middle of a save.
+  // Immediate: a second user waits here instead of in the middle of a save.
   database_->run("BEGIN IMMEDIATE");
   begun_ = true;
   writes_ = 0;

@@ -23,7 +23,7 @@ class Statement {
   /// `subject` is the text that the user sent, for errors; `text` is SQLite's.
   Statement(Database& database, const std::string& text, std::string_view subject);
 
-  /// Binds parameter `index`, from 1. The value must stay where it is until the reset.
+  /// Binds parameter `index`, from 1. The value must stay in place until the reset.
   void bind(int index, const tsql::StoredValue& value);
   /// Goes to the next row; false at the end. Throws Error and resets the statement if it fails.
   bool step(std::string_view subject);
@@ -48,7 +48,7 @@ class Database {
   /// Opens an existing file, given by its absolute path. Throws Error; a database of another
   /// program is refused before a byte of it changes.
   Database(const std::string& file, int busyMilliseconds);
-  /// Opens a file by an SQLite URI, merely to look at it.
+  /// Opens a file by an SQLite URI, for inspection only.
   Database(const std::string& uri, ReadOnly mode);
 
   // The functions registered with it hold its address.
@@ -64,7 +64,7 @@ class Database {
   Content content(const std::string& schema);
 
   /// Throws Error of kind FileReplaced if an open file, or its log, is no longer the one that its
-  /// path leads to: what is written then would be lost. Costs a system call for each.
+  /// path leads to: writes would then be lost. Costs one system call per file.
   void requireInPlace(std::string_view subject) const;
 
   /// True while a transaction is open.
@@ -75,7 +75,7 @@ class Database {
   /// Runs a text that returns one whole number; 0 if it returns no row.
   std::int64_t number(const std::string& text);
 
-  /// The failure that SQLite reports now, or the one that a function of ours met before.
+  /// The failure that SQLite reports, or the one that a function of ours reported before.
   ado::Error failure(int code, std::string_view subject);
   /// Called by functions inside a running statement; failure() prefers it to SQLite's words.
   void keepFunctionFailure(ado::Error error) { functionFailure_ = std::move(error); }
@@ -97,8 +97,8 @@ class Database {
   int busyMilliseconds_ = 0;
 };
 
-/// The transaction as its caller believes it to be. SQLite gives up a transaction by itself after
-/// some failures (a full disk); what comes next must not be stored on its own.
+/// The transaction as seen by its caller. After some failures (a full disk) SQLite rolls a
+/// transaction back on its own; later statements must then not be stored outside it.
 class Transaction {
  public:
   explicit Transaction(Database& database) : database_(&database) {}
@@ -106,13 +106,13 @@ class Transaction {
   void begin();
   void commit();
   void rollback();
-  /// Whether one is really open. A caller that has read "no" here knows that it is gone.
+  /// Whether one is really open. A caller that got False here knows that it is gone.
   bool isOpen() const;
-  /// Throws Error if the transaction was given up and the caller does not know yet.
+  /// Throws Error if the transaction was lost and the caller does not know yet.
   void requireNotLost(std::string_view subject) const;
-  /// To be called before every write. Throws Error as requireNotLost and Database::requireInPlace
-  /// do. Inside a transaction, where commit makes sure of the files before anything is stored, it
-  /// looks at them for the first writes and then now and then.
+  /// Call it before every write. Throws Error as requireNotLost and Database::requireInPlace do.
+  /// Inside a transaction, where commit makes sure of the files before anything is stored, it looks
+  /// at them for the first writes and then now and then.
   void requireWritable(std::string_view subject);
 
  private:

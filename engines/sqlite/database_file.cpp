@@ -25,7 +25,7 @@ namespace {
   fail(path, number, ado::systemWords(number));
 }
 
-/// The size of an ordinary file; nothing if there is none. Throws Error for anything else.
+/// The size of an ordinary file; empty if there is none. Throws Error for anything else.
 std::optional<std::size_t> sizeOf(const std::string& path) {
   struct stat state {};
   if (::lstat(path.c_str(), &state) != 0) {
@@ -89,7 +89,7 @@ Content contentOf(const std::string& path) {
   const auto log = sizeOf(path + "-wal");
   const bool hasLog = log && *log > 0;
   try {
-    // Immutable: SQLite takes no lock and looks for no file beside this one.
+    // Immutable: SQLite takes no lock and looks for no companion file.
     const Content content = lookInto(path, "?immutable=1");
     if (content == Content::Ours || !hasLog) return content;
   } catch (const ado::Error&) {
@@ -106,7 +106,7 @@ void requireNotForeign(const std::string& path, Content content) {
 }
 
 void makeFile(const std::string& path) {
-  // Exclusive: a link that appeared meanwhile is not followed.
+  // Exclusive: a link that has appeared since is not followed.
   const int file =
       ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (file >= 0) {

@@ -23,13 +23,13 @@ enum class Content {
   Foreign,  ///< a database of another program
 };
 
-/// Looks at a file without changing a byte of it and without creating a file beside it. Throws
+/// Inspects a file without changing a byte of it and without creating a file next to it. Throws
 /// Error for a link, for anything else that is not an ordinary file, and for a file that is no
 /// database.
 Content contentOf(const std::string& path);
 
-/// Creates a file of 0 bytes that only its owner can read and write; an ordinary file that appeared
-/// under that name meanwhile will do. Throws Error.
+/// Creates a file of 0 bytes that only its owner can read and write; an ordinary file that has
+/// appeared under that name is accepted. Throws Error.
 void makeFile(const std::string& path);
 
 /// Throws Error of kind Damaged for a database of another program.

@@ -30,7 +30,7 @@ constexpr std::array kSentences{
     Sentence{SQLITE_NOMEM, ErrorKind::Other, "No hay memoria suficiente"},
 };
 
-/// For failures of a system call; its own words follow.
+/// For failures of a system call; the system's reason follows.
 constexpr std::array kSystemSentences{
     Sentence{SQLITE_IOERR, ErrorKind::Other, "Error de lectura o escritura en el disco"},
     Sentence{SQLITE_CANTOPEN, ErrorKind::Other, "No se puede abrir la base de datos"},

@@ -7,8 +7,8 @@
 
 namespace korvantes::sqlite {
 
-/// A failure of SQLite as the user gets it: a Spanish sentence of ours with its kind. SQLite's own
-/// words appear only where there is no such sentence.
+/// A failure of SQLite as shown to the user: our Spanish sentence and its kind. SQLite's own words
+/// appear only if there is no such sentence.
 /// @param code the extended result code, which becomes the error's number
 /// @param words sqlite3_errmsg
 /// @param systemError errno of the failed system call, 0 if there was none

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kMostArguments = 16;
 
-/// What SQLite passes to a call: the function, and where to report its failures.
+/// User data of a call: the function, and where to report failures.
 template <typename Function>
 struct Registration {
   const Function* function;

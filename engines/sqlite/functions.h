@@ -4,8 +4,7 @@ namespace korvantes::sqlite {
 
 class Database;
 
-/// Gives the database the functions and the text order that compiled statements call for.
-/// Throws Error.
+/// Registers the functions and the collation that compiled statements use. Throws Error.
 void registerFunctions(Database& database);
 
 }  // namespace korvantes::sqlite

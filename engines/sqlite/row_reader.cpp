@@ -68,7 +68,7 @@ ado::Recordset readRows(Statement& statement, const tsql::CompiledStatement& com
     if (cells.empty()) cells.reserve(compiled.types.size() * kExpectedRows);
     for (int column = 0; column < columns; ++column) {
       const auto& type = compiled.types[static_cast<std::size_t>(column)];
-      // What joins repeat from row to row (names above all) is kept once.
+      // Values that joins repeat from row to row (mostly names) are stored once.
       const ado::Variant* above = cells.size() < compiled.types.size()
                                       ? nullptr
                                       : &cells[cells.size() - compiled.types.size()];

@@ -9,8 +9,8 @@
 
 namespace korvantes::sqlite {
 
-/// Runs a bound SELECT to its end and gives its rows with the types it declares, so that no
-/// statement stays active after a recordset was built.
+/// Runs a bound SELECT to its end and returns its rows with the declared types, so that no
+/// statement stays active once a recordset is built.
 ado::Recordset readRows(Statement& statement, const tsql::CompiledStatement& compiled,
                         std::string_view subject, std::shared_ptr<ado::RowWriter> writer = nullptr);
 

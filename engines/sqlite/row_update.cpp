@@ -28,7 +28,7 @@ std::int64_t unitsFor(const tsql::ColumnDefinition& column, const ado::Variant& 
     units = ado::Decimal(value.asLong(), 0).rescaled(scale).units();
   }
   if (column.type.kind != tsql::TypeKind::Decimal) return units;
-  // Eighteen digits are the most that 64 bits hold of every kind; more cannot overflow here.
+  // A column of 19 or more digits takes any 64-bit number.
   if (column.type.precision > ado::Decimal::kMaxScale) return units;
   const std::int64_t limit = ado::Decimal(1, 0).rescaled(column.type.precision).units();
   if (units >= limit || units <= -limit) doesNotFit(column);

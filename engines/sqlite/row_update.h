@@ -11,7 +11,7 @@
 
 namespace korvantes::sqlite {
 
-/// The open database, which a recordset may try to reach after its connection was closed.
+/// The open database; a recordset may outlive its connection.
 struct Session {
   Session(const std::string& file, int busyMilliseconds)
       : database(file, busyMilliseconds), transaction(database) {}

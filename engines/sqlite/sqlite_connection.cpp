@@ -129,9 +129,9 @@ void SqliteConnection::Impl::reloadCatalogue() {
   definedInTransaction = definedInTransaction && session->database.inTransaction();
 }
 
-/// Takes over what other connections have declared or dropped. True if there was anything.
+/// Loads what other connections have declared or dropped. Returns whether anything changed.
 bool SqliteConnection::Impl::refreshCatalogue() {
-  // Tables made in a transaction that SQLite gave up by itself are gone with it.
+  // Tables created in a transaction that SQLite rolled back on its own are gone too.
   const bool undone = definedInTransaction && !session->database.inTransaction();
   if (!undone && store.version() == catalogueVersion) return false;
   reloadCatalogue();
@@ -149,7 +149,7 @@ bool SqliteConnection::Impl::attachShared() {
 }
 
 tsql::BoundStatement SqliteConnection::Impl::compile(std::string_view text) {
-  // Tables made in a transaction that SQLite gave up by itself are gone with it.
+  // Tables created in a transaction that SQLite rolled back on its own are gone too.
   if (definedInTransaction && !session->database.inTransaction()) reloadCatalogue();
   try {
     return compiler.compile(text);
@@ -190,7 +190,7 @@ Statement& SqliteConnection::Impl::prepared(const tsql::BoundStatement& bound,
 }
 
 void SqliteConnection::Impl::define(tsql::BoundStatement bound, std::string_view text) {
-  // What others declared must not be lost sight of when this one changes the catalogue's version.
+  // Load what others have declared before changing the catalogue's version.
   if (refreshCatalogue()) bound = compiler.compile(text);
   const std::string target =
       bound.statement->created ? bound.statement->created->database : bound.statement->database;

@@ -1,8 +1,8 @@
 // engines/sqlite: the embedded engine. One file for the company; a second one beside it (the same
 // path followed by ".vespara"), attached as Vespara, for what several applications share.
 //
-// Every statement passes through the compiler. What it declares is kept in the file itself (table
-// `korvantes_schema`), so that a file opened later brings its own catalogue of types.
+// Every statement passes through the compiler. Declarations are kept in the file itself (table
+// `korvantes_schema`), so that every file has its own catalogue of types.
 #pragma once
 
 #include <memory>
@@ -26,7 +26,7 @@ struct OpenOptions {
 /// program, before a byte of it changes or a file appears beside it. An Error's number is SQLite's
 /// extended result code; that of a wrong statement or a failed arithmetic is the server's.
 ///
-/// Before every write it makes sure that both files are still the ones that were opened (kind
+/// Before every write it checks that both files are still the ones that were opened (kind
 /// FileReplaced). A shared file that appears later is attached when a statement needs it and no
 /// transaction is open.
 class SqliteConnection : public ado::Connection {
@@ -43,8 +43,8 @@ class SqliteConnection : public ado::Connection {
   bool inTransaction() const override;
   ado::Recordset OpenForUpdate(std::string_view statement) override;
 
-  /// Whether a table is declared, by whichever connection. `database` is empty for the company's
-  /// own tables and "Vespara" for the shared ones.
+  /// Whether a table is declared, by any connection. `database` is empty for the company's own
+  /// tables and "Vespara" for the shared ones.
   bool hasTable(std::string_view database, std::string_view table);
 
  private:

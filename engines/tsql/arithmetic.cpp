@@ -19,7 +19,7 @@ bool isWhole(const Type& type) {
   return type.kind == TypeKind::Int || type.kind == TypeKind::Bit;
 }
 
-/// A number seen as a decimal; a whole constant has as many digits as it shows.
+/// The type of a number as a decimal; a whole constant has as many digits as are written.
 Type asDecimal(const typed::Expression& value) {
   switch (value.type.kind) {
     case TypeKind::Bit:
@@ -110,7 +110,7 @@ ExpressionPtr decimalQuotient(ExpressionPtr left, ExpressionPtr right) {
   const Type b = asDecimal(*right);
   if (const auto power = powerOfTenConstant(*right); power && a.scale + *power <= kMaxDigits) {
     const int scale = a.scale + *power;
-    // Nothing is computed: the same units, read at the new scale.
+    // No computation: the same units are read at the new scale.
     left->type = decimalResult(std::max(a.precision, scale), scale);
     return left;
   }
@@ -159,7 +159,7 @@ ExpressionPtr joined(ExpressionPtr left, ExpressionPtr right) {
 
 ExpressionPtr arithmetic(BinaryOperator op, ExpressionPtr left, ExpressionPtr right,
                          const Place& place) {
-  // A Null, or a text beside a number, takes the other side's type.
+  // A Null, or a text next to a number, takes the other side's type.
   for (auto [one, other] : {std::pair(&left, &right), std::pair(&right, &left)}) {
     const Type& type = (*other)->type;
     const bool follows = isNullConstant(**one) || (isText((*one)->type) && isNumber(type));

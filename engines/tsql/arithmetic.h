@@ -6,11 +6,11 @@
 
 namespace korvantes::tsql {
 
-/// left op right for + - * / %, typed as the server types it, save that decimals keep within 64
-/// bits: products add their scales (more than 18 decimals are refused); dividing by a whole
-/// constant that is a power of ten moves the point; any other quotient of decimals has six
-/// decimals or as many more as fit 18 digits, the rest cut off. Whole numbers stay whole, money
-/// with money or whole numbers stays money. + of two texts joins them.
+/// left op right for + - * / %, typed as on the server, except that decimals stay within 64 bits:
+/// products add their scales (more than 18 decimals are refused); dividing by a whole constant that
+/// is a power of ten moves the point; any other quotient of decimals has six decimals or as many
+/// more as fit 18 digits, the rest cut off. Whole numbers stay whole, money with money or whole
+/// numbers stays money. + of two texts joins them.
 typed::ExpressionPtr arithmetic(syntax::BinaryOperator op, typed::ExpressionPtr left,
                                 typed::ExpressionPtr right, const Place& place);
 

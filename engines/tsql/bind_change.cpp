@@ -23,7 +23,7 @@ void addOnce(std::vector<const ColumnDefinition*>& columns, const ColumnDefiniti
   columns.push_back(&column);
 }
 
-/// The columns an INSERT gives values to: those it names, or all that the database does not number.
+/// The columns that an INSERT sets: those it names, or all except one numbered by the database.
 std::vector<const ColumnDefinition*> insertedColumns(const TableDefinition& table,
                                                      const syntax::Insert& insert) {
   std::vector<const ColumnDefinition*> columns;

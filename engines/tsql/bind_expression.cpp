@@ -33,7 +33,7 @@ std::optional<typed::Comparison> comparisonOf(syntax::BinaryOperator op) {
   }
 }
 
-/// A literal, or a number with a minus in front of it.
+/// A literal, or a negated number.
 const syntax::LiteralValue* literalOf(const syntax::Expression& expression, bool& negative) {
   if (const auto* literal = std::get_if<syntax::LiteralValue>(&expression.node)) return literal;
   const auto* unary = std::get_if<syntax::Unary>(&expression.node);
@@ -80,7 +80,7 @@ ExpressionPtr Binder::bindBeside(const syntax::Expression& expression, const Typ
   const auto* value = literalOf(expression, negative);
   const bool number = value != nullptr && (value->literal.kind == PieceKind::Whole ||
                                            value->literal.kind == PieceKind::Decimal);
-  // A number beside a text turns the text into a number, not the other way round.
+  // Next to a number, a text becomes a number, not the other way round.
   const bool lifts = value != nullptr && other.kind != TypeKind::Null &&
                      mayMeet(value->literal.kind, other) && !(number && isText(other));
   if (lifts) {

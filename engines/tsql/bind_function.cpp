@@ -13,7 +13,7 @@ using typed::Operation;
 
 namespace {
 
-constexpr int kTextOfNumber = 30;  // characters of a number or a date taken as a text
+constexpr int kTextOfNumber = 30;  // characters of a number or date converted to text
 
 Place placeOf(const syntax::Expression& at) {
   return {at.where, at.word};

@@ -203,7 +203,7 @@ void Binder::bindItem(const syntax::SelectItem& item, typed::Core& into) {
   }
   for (const auto* source : starSources(*scope_, item.starOf, item.where)) {
     for (const auto& column : source->table->columns) {
-      // Through the usual way, so that the rules of groups hold for a star as well.
+      // Bound like any column, so that the rules for groups apply to a star too.
       syntax::ColumnName name{{source->name, item.where}, {column.name, item.where}};
       const auto found = findColumn(*scope_, name);
       into.items.push_back(

@@ -88,7 +88,7 @@ void addColumn(TableDefinition& table, const syntax::ColumnDeclaration& declarat
   table.columns.push_back({declaration.name.text, type, nullable, declaration.identity});
 }
 
-/// A column numbered by the database is the table's key, alone: that is how numbers stay unique.
+/// A column numbered by the database must be the whole key: this keeps the numbers unique.
 void requireIdentityIsKey(const TableDefinition& table, const syntax::CreateTable& create) {
   for (std::size_t i = 0; i < table.columns.size(); ++i) {
     const auto& column = table.columns[i];

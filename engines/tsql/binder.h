@@ -10,9 +10,8 @@
 
 namespace korvantes::tsql {
 
-/// Turns the unbound tree of one text into the typed tree: finds the names, types every
-/// expression, and decides which literals become parameters. One `bind` per kind of node. Throws
-/// Refusal.
+/// Turns the unbound tree of one text into the typed tree: resolves names, types every expression,
+/// and decides which literals become parameters. One `bind` per kind of node. Throws Refusal.
 class Binder {
  public:
   Binder(const Catalogue& catalogue, std::string_view text) : catalogue_(catalogue), text_(text) {}
@@ -43,7 +42,7 @@ class Binder {
   typed::ExpressionPtr bindExpression(const syntax::Expression& expression);
   typed::ExpressionPtr bindValue(const syntax::Expression& expression);
   typed::ExpressionPtr bindCondition(const syntax::Expression& expression);
-  /// A value that meets values of another type: a literal becomes a parameter where it can.
+  /// A value next to values of another type: a literal becomes a parameter if possible.
   typed::ExpressionPtr bindBeside(const syntax::Expression& expression, const Type& other);
   typed::ExpressionPtr bindAssigned(const syntax::Expression& expression,
                                     const ColumnDefinition& column);
@@ -91,7 +90,7 @@ bool isCondition(const typed::Expression& expression);
 /// Whether the call is SUM, COUNT, MIN, MAX or AVG.
 bool isAggregate(const syntax::Call& call);
 
-/// Whether the expression contains an aggregate of this SELECT (those of subqueries aside).
+/// Whether the expression contains an aggregate of this SELECT, not counting those of subqueries.
 bool hasAggregate(const syntax::Expression& expression);
 
 /// The type a declaration or a CAST names; a text without a length has `textLength` characters.

@@ -13,9 +13,9 @@ namespace korvantes::tsql {
 
 namespace {
 
-/// More literals than this, and SQLite has no parameters left.
+/// SQLite's limit of parameters.
 constexpr std::size_t kMostParameters = 32000;
-/// Entries under one key differ in their structural literals; texts that keep changing those (a
+/// Entries under one key differ in their structural literals; texts in which these keep changing (a
 /// script of INSERTs with expressions) must not pile up.
 constexpr std::size_t kMostPerKey = 64;
 constexpr std::size_t kMostKeys = 2000;
@@ -41,7 +41,7 @@ ado::FieldType fieldTypeOf(const Type& type) {
   }
 }
 
-/// Fills in what the engine has to know besides the text.
+/// Fills in what the engine needs besides the text.
 struct Describer {
   CompiledStatement& out;
 
@@ -172,7 +172,7 @@ struct Compiler::Impl {
       }
     }
     Entry entry = compile(text);
-    // A parameter left out would be a Null in silence.
+    // SQLite silently takes a missing parameter as Null.
     if (!entry.fill(fingerprint.literals, text, result.parameters))
       throw std::logic_error("a statement has no room for its own literals");
     entry.structural = structuralOf(fingerprint.literals, entry.parameters);

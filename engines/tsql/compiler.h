@@ -3,9 +3,9 @@
 //
 //   text -> lexer -> parser (unbound tree) -> binder (typed tree) -> writer (text of one engine)
 //
-// Nothing is patched by text replacement, and no exact number ever becomes a binary float: money
-// and decimals travel as whole numbers of units whose scale is known when a statement is compiled.
-// The docs page docs/sql-subset.md lists the syntax.
+// No step replaces text, and exact numbers never become binary floats: money and decimals are whole
+// numbers of units whose scale is known at compile time. The docs page docs/sql-subset.md lists the
+// syntax.
 #pragma once
 
 #include <cstddef>
@@ -23,7 +23,7 @@ namespace korvantes::tsql {
 
 enum class StatementKind { Select, Insert, Update, Delete, CreateTable, CreateIndex, DropTable };
 
-/// A statement in the words of one engine, ready to be prepared once and run many times.
+/// A statement in the SQL of one engine, ready to be prepared once and run many times.
 struct CompiledStatement {
   StatementKind kind = StatementKind::Select;
   /// The engine's text, with ?1, ?2 … for the lifted literals.
@@ -48,10 +48,10 @@ struct BoundStatement {
 
 /// Compiles texts against a catalogue and keeps what it compiled.
 ///
-/// The cache is looked up by the text with its literals taken out, so that the ten thousandth
-/// "… WHERE Cav_id = 4711" is one scan over the text, a hash and the conversion of its literals.
-/// Literals that decide how the statement is compiled (a scale, the 2 of ROUND, the 100 of a
-/// division, TOP, a length) stay part of the key.
+/// The cache key is the text without its literals, so that the ten thousandth "… WHERE Cav_id =
+/// 4711" costs one scan of the text, a hash and the conversion of its literals. Literals that
+/// decide how the statement is compiled (a scale, the 2 of ROUND, the 100 of a division, TOP, a
+/// length) stay part of the key.
 ///
 /// Failures are ado::Errors in Spanish with the position (line and column from 1) and the word:
 /// a text outside the subset or with a second statement, an unknown table or column, an ambiguous
@@ -66,7 +66,7 @@ class Compiler {
 
   BoundStatement compile(std::string_view text);
 
-  /// Forgets all compiled statements. To be called after the catalogue has changed.
+  /// Forgets all compiled statements. Call it after changing the catalogue.
   void clear();
 
  private:

@@ -12,7 +12,7 @@ namespace {
 using typed::ExpressionPtr;
 using typed::Operation;
 
-/// Digits in front of the point that a number of the type can have.
+/// Largest number of digits before the point in a number of the type.
 int wholeDigits(const Type& type) {
   switch (type.kind) {
     case TypeKind::Bit:
@@ -76,7 +76,7 @@ ExpressionPtr numberFromNumber(ExpressionPtr value, const Type& target) {
   }
 }
 
-/// Runs `read` now on a constant text, and leaves any other text to the operation.
+/// Runs `read` now on a constant text; any other text is converted by the operation.
 template <typename Read>
 ExpressionPtr fromText(ExpressionPtr value, const Type& target, Operation operation,
                        const Place& place, Read read) {

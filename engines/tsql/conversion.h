@@ -31,15 +31,14 @@ typed::ExpressionPtr operate(typed::Operation operation, const Type& type,
 
 typed::ExpressionPtr nullConstant();
 bool isNullConstant(const typed::Expression& expression);
-/// The units of a constant number; nothing for anything else.
+/// The units of a constant number; empty for anything else.
 std::optional<std::int64_t> constantUnits(const typed::Expression& expression);
 
-/// The common type of two expressions: of a CASE, a COALESCE, a UNION, a comparison. Nothing
-/// if they are incompatible.
+/// The common type of two expressions: of a CASE, a COALESCE, a UNION, a comparison. Empty if they
+/// are incompatible.
 std::optional<Type> commonType(const Type& a, const Type& b);
 
-/// A number at another scale. Multiplications and rescalings that follow each other become one
-/// operation.
+/// A number at another scale. Consecutive multiplications and rescalings become one operation.
 typed::ExpressionPtr rescaled(typed::ExpressionPtr value, int scale, const Type& type);
 
 /// ROUND(value, places).
@@ -48,8 +47,8 @@ typed::ExpressionPtr rounded(typed::ExpressionPtr value, int places);
 /// CAST(value AS target): texts are cut, whole numbers too long for a text become "*".
 typed::ExpressionPtr converted(typed::ExpressionPtr value, const Type& target, const Place& place);
 
-/// The value as a comparison with the other side, whose common type is given, needs it: only
-/// scales and kinds are brought together, so that a column stays a column where it can.
+/// The value as a comparison with the other side, whose common type is given, needs it: only scales
+/// and kinds are matched, so that a column remains a plain column if possible.
 typed::ExpressionPtr compared(typed::ExpressionPtr value, const Type& common, const Place& place);
 
 /// The value as it goes into a column: a text too long and, where the column forbids it, a Null

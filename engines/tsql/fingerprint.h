@@ -13,8 +13,8 @@ struct Fingerprint {
   std::string key;
   std::vector<Literal> literals;
 
-  /// Reads a text in one pass. False for a text that cannot be read to its end; the members are
-  /// then undefined. The literals point into `text`.
+  /// Reads a text in one pass. Returns False, with undefined members, if it cannot be read to its
+  /// end. The literals point into `text`.
   bool read(std::string_view text);
 };
 

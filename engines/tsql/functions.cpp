@@ -87,7 +87,7 @@ std::int64_t checkDigits(const std::int64_t* a) {
   return a[0];
 }
 
-/// Stands in a branch that is reached by a second row alone.
+/// For a branch that only a second row reaches.
 std::int64_t refuseRows(const std::int64_t*) {
   throw failure(Problem::TooManyRows);
 }
@@ -128,7 +128,7 @@ Type textType(const StoredValue& length, const StoredValue& padded) {
           .length = small(whole(length))};
 }
 
-/// A type as the writer's texts carry it: kind, precision, scale.
+/// A type as the writer passes it: kind, precision, scale.
 Type numberType(Arguments kindPrecisionScale) {
   return {.kind = static_cast<TypeKind>(whole(kindPrecisionScale[0])),
           .precision = small(whole(kindPrecisionScale[1])),

@@ -41,7 +41,7 @@ ado::Bytes bytesOf(std::string_view raw) {
   return bytes;
 }
 
-/// The number without losing a digit, or nothing.
+/// The number, if no digit is lost; else empty.
 std::optional<StoredValue> comparedNumber(std::int64_t units, int scale, const Type& target) {
   while (scale > target.scale && units % 10 == 0) {
     units /= 10;

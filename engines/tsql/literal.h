@@ -12,14 +12,14 @@
 
 namespace korvantes::tsql {
 
-/// A literal as the text has it.
+/// A literal as written in the text.
 struct Literal {
   PieceKind kind = PieceKind::Whole;
   std::string_view raw;
   std::size_t offset = 0;
 };
 
-/// The text between the quotes, doubled ones made single.
+/// The text between the quotes, with doubled quotes made single.
 std::string textOf(const Literal& literal);
 
 /// The type that the server gives the literal: int, or decimal for whole numbers beyond it;
@@ -34,14 +34,14 @@ struct ParameterUse {
   std::size_t literal = 0;  ///< which of the text's literals, from 0
   bool negated = false;     ///< preceded by a minus
   Type target;              ///< the type it meets
-  /// Compared with the target, so that no digit may be lost; else assigned to it, by the server's
-  /// rules (rounding, "too long" an error).
+  /// True if compared with the target, so that no digit may be lost; else assigned to it by the
+  /// server's rules (rounding, an error if too long).
   bool compared = false;
   std::string column;  ///< the column it is assigned to
 };
 
-/// The parameter's value; nothing if a compared number has more digits than the target has.
-/// Throws Refusal with the literal's place in `text`.
+/// The parameter's value; empty if a compared number has more digits than the target. Throws
+/// Refusal with the literal's place in `text`.
 std::optional<StoredValue> convert(const Literal& literal, const ParameterUse& use,
                                    std::string_view text);
 

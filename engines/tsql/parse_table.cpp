@@ -21,7 +21,7 @@ void skipClustering(TokenStream& in) {
   if (!in.accept("CLUSTERED")) in.accept("NONCLUSTERED");
 }
 
-/// PRIMARY KEY or UNIQUE, with the name in front of it that only the database cares for.
+/// PRIMARY KEY or UNIQUE, optionally after a constraint name, which is ignored.
 std::optional<KeyDeclaration> parseKey(TokenStream& in) {
   if (in.accept("CONSTRAINT")) in.name("el nombre de la restricción");
   KeyDeclaration key;

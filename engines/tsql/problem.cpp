@@ -134,7 +134,7 @@ ado::ErrorKind kindOf(Problem problem) {
   }
 }
 
-/// A sentence on its own, without a place in front.
+/// A sentence on its own, not preceded by a place.
 std::string asSentence(std::string text) {
   if (text.front() >= 'a' && text.front() <= 'z')
     text.front() = static_cast<char>(text.front() - 32);

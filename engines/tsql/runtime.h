@@ -5,10 +5,10 @@
 
 namespace korvantes::tsql {
 
-/// The arithmetic that compiled statements call for while they run: whole numbers of units with a
-/// 128-bit intermediate. An engine registers these functions under the names its writer uses
-/// (engines/tsql/functions.h). Nothing is returned if a result does not fit 64 bits or a division
-/// is by zero; the engine turns that into the server's error.
+/// The arithmetic that compiled statements use: whole numbers of units with a 128-bit intermediate.
+/// An engine registers these functions under the names its writer uses (engines/tsql/functions.h).
+/// Empty if a result does not fit 64 bits or a divisor is zero; the engine turns that into the
+/// server's error.
 
 /// a + b, a - b, a * b.
 std::optional<std::int64_t> addUnits(std::int64_t a, std::int64_t b);

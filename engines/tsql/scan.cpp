@@ -27,7 +27,7 @@ constexpr std::array<Class, 256> makeClasses() {
 
 constexpr auto kClasses = makeClasses();
 
-/// A text that can be read at any position: past its end there is a NUL.
+/// A text that can be read at any position; past its end it yields NUL.
 struct Reader {
   std::string_view text;
 

@@ -6,8 +6,8 @@
 
 namespace korvantes::tsql {
 
-/// What a statement's text consists of, blanks and comments aside. The lexer and
-/// the cache both use this scan, so that they always agree on which literal is which.
+/// What a statement's text consists of, blanks and comments aside. Lexer and cache share this scan,
+/// so that they number literals alike.
 enum class PieceKind : std::uint8_t {
   End,
   Word,

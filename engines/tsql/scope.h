@@ -28,8 +28,8 @@ struct Scope {
   bool grouped = false;
   std::vector<std::pair<int, std::string>> groupColumns;
 
-  /// Columns found here and in outer scopes so far: tells whether an aggregate belongs to this
-  /// scope.
+  /// Columns found here and in outer scopes so far; they decide whether an aggregate belongs to
+  /// this scope.
   int ownReferences = 0;
 
   /// Adds a source; two of one name are refused.

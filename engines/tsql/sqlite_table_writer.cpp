@@ -49,7 +49,8 @@ std::string writeSqlite(const typed::CreateTable& create) {
 }
 
 std::string writeSqlite(const typed::CreateIndex& create) {
-  // The server lets two tables have indexes of one name; here names are unique in the database.
+  // On the server two tables may have indexes of the same name; in SQLite names are unique in a
+  // database.
   const std::string name = qualifiedName(create.database, create.table + "." + create.name);
   std::string text = create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ";
   text += name + " ON " + quotedName(create.table) + " (";

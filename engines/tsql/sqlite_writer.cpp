@@ -8,8 +8,9 @@ namespace korvantes::tsql {
 
 namespace {
 
-/// The operations that are one call of a function: its name, and how many of the operation's
-/// numbers follow the operands. functions.h has them; trim, length and coalesce are SQLite's own.
+/// The operations that map to one function call: its name, and how many of the operation's numbers
+/// follow the operands. The functions are in functions.h; trim, length and coalesce are SQLite's
+/// own.
 struct FunctionOf {
   typed::Operation operation;
   const char* name;
@@ -70,7 +71,7 @@ const char* nameOf(typed::AggregateKind kind) {
   }
 }
 
-/// A column carries its collation by its declaration; every other text has to be given it.
+/// A column has the collation by its declaration; any other text needs it added.
 bool isColumn(const typed::Expression& expression) {
   return std::holds_alternative<typed::Column>(expression.node);
 }
@@ -110,7 +111,7 @@ class Writer {
       write(select.cores[i], select.cores.size() > 1, alias);
     }
     writeOrder(select);
-    // TOP comes first, its counterpart last.
+    // TOP comes first, LIMIT last.
     if (const auto& top = select.cores.front().top) out_ += " LIMIT " + std::to_string(*top);
   }
 
@@ -167,7 +168,7 @@ class Writer {
     out_ += core.distinct ? "SELECT DISTINCT " : "SELECT ";
     writeList(core.items, [&](const typed::Item& item) {
       write(*item.value);
-      // What makes rows equal must be the same comparison as everywhere.
+      // Rows must be equal by the same comparison as everywhere else.
       if ((core.distinct || compound) && needsCollation(*item.value)) out_ += kCollation;
       out_ += alias;
     });
@@ -326,7 +327,7 @@ class Writer {
       writeParenthesised(*subquery.select);
       return;
     }
-    // SQLite would take the first of several rows without a word.
+    // SQLite would silently take the first of several rows.
     out_ += "(SELECT CASE WHEN count(*) > 1 THEN kv_refuse_rows(1) ELSE min(x) END FROM ";
     writeParenthesised(*subquery.select, " AS x");
     out_ += ")";
@@ -334,7 +335,7 @@ class Writer {
 
   void write(const typed::Compare& compare, const typed::Expression&) {
     out_ += "(";
-    // The left side's collation goes first; it is given only where neither side is a column.
+    // SQLite uses the left side's collation; it is needed only if neither side is a column.
     const bool column = isColumn(*compare.left) || isColumn(*compare.right);
     write(*compare.left);
     if (!column && isText(compare.left->type)) out_ += kCollation;
@@ -407,7 +408,7 @@ class Writer {
     if (needsCollation(expression)) out_ += kCollation;
   }
 
-  /// `alias` names the select's one column.
+  /// `alias` names the select's only column.
   void writeParenthesised(const typed::Select& select, const char* alias = "") {
     out_ += "(";
     write(select, alias);

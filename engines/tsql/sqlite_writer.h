@@ -6,7 +6,7 @@
 
 namespace korvantes::tsql {
 
-/// The typed tree in SQLite's words. Arithmetic goes through the functions of functions.h, texts
+/// The typed tree as SQLite's SQL. Arithmetic goes through the functions of functions.h, texts
 /// compare by the collation KV_TEXT, the shared database is the schema Vespara, tables are STRICT:
 /// whole numbers, bits, money and decimals are INTEGER units, dates and texts TEXT, bytes BLOB.
 std::string writeSqlite(const typed::Statement& statement);

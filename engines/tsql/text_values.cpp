@@ -20,8 +20,7 @@ std::string_view withoutBlanks(std::string_view text) {
   return text;
 }
 
-/// Number with `scale` decimals, further digits dropped by rounding; nothing
-/// when the text is no number.
+/// Number with `scale` decimals, rounding further digits; empty if the text is not a number.
 std::optional<Wide> parseUnits(std::string_view text, int scale, bool pointAllowed) {
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
@@ -116,7 +115,7 @@ std::string fixedText(std::string_view text, const Type& target) {
 
 std::string storedText(std::string_view text, const Type& target, std::string_view column) {
   const auto length = static_cast<std::size_t>(target.length);
-  // Fewer bytes than characters allowed: nothing to count.
+  // No more bytes than characters allowed, so there is no need to count.
   if (length != 0 && text.size() > length) {
     const auto rest = text.substr(ado::byteOffset(text, length));
     if (rest.find_first_not_of(' ') != std::string_view::npos) {
@@ -147,8 +146,8 @@ bool inSet(char32_t character, std::u32string_view pattern, std::size_t& positio
   return found != negated;
 }
 
-/// Matches one element of the pattern other than '%'; nothing when the character does not match,
-/// else the position of the next element.
+/// Matches one element of the pattern other than '%'. Returns the position of the next element;
+/// empty if the character does not match.
 std::optional<std::size_t> matchOne(char32_t character, std::u32string_view pattern,
                                     std::size_t position) {
   const char32_t element = pattern[position++];

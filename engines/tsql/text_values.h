@@ -12,8 +12,8 @@ namespace korvantes::tsql {
 /// How numbers, dates and texts turn into one another. A failure is a Refusal without a place:
 /// the caller knows where the value is, if it is in a text at all.
 
-/// The value of a text in units of `type` (a number): blanks around it are allowed, digits with at
-/// most one point. Digits beyond the scale round half away from zero; a whole number takes no
+/// The value of a text in units of `type` (a number): digits with at most one point, surrounding
+/// blanks allowed. Digits beyond the scale round half away from zero; a whole number takes no
 /// point. A blank text is 0, as on the server, but an error for decimals.
 std::int64_t unitsFromText(std::string_view text, const Type& type);
 

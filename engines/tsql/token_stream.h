@@ -8,8 +8,8 @@
 
 namespace korvantes::tsql {
 
-/// The tokens as the parser consumes them. If an expected token is missing, the text is refused
-/// with the token found in its place.
+/// The tokens as the parser consumes them. If an expected token is missing, a Refusal names the one
+/// found in its place.
 class TokenStream {
  public:
   explicit TokenStream(std::vector<Token> tokens) : tokens_(std::move(tokens)) {}

@@ -13,8 +13,8 @@
 #include "engines/tsql/types.h"
 #include "engines/tsql/value.h"
 
-/// The typed tree: every name found, every expression with the server's type, every change of scale
-/// or type an operation of its own. A writer only has to put it into the words of its engine.
+/// The typed tree: names are resolved, expressions have the server's types, and each change of
+/// scale or type is an explicit operation. A writer only has to put it into its engine's SQL.
 namespace korvantes::tsql::typed {
 
 struct Expression;
@@ -22,8 +22,8 @@ struct Select;
 using ExpressionPtr = std::unique_ptr<Expression>;
 using SelectPtr = std::unique_ptr<Select>;
 
-/// What an expression does with its operands. Numbers are units; the scales and lengths that an
-/// operation needs besides its operands are in `numbers`, in the order given here.
+/// The operation of an expression on its operands. Numbers are units; the scales and lengths that
+/// an operation also needs are in `numbers`, in the order given here.
 enum class Operation {
   Add,
   Subtract,

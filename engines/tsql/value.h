@@ -8,8 +8,8 @@
 
 namespace korvantes::tsql {
 
-/// A value in the form in which the engine stores it: whole numbers, units of an exact number
-/// (scale by its type), dates as "yyyy-mm-dd" text, texts as UTF-8, bytes.
+/// A value as the engine stores it: whole numbers, units of an exact number (scale by its type),
+/// dates as "yyyy-mm-dd" text, texts as UTF-8, bytes.
 using StoredValue = std::variant<std::monostate, std::int64_t, std::string, ado::Bytes>;
 
 }  // namespace korvantes::tsql

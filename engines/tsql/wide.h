@@ -10,7 +10,7 @@ namespace korvantes::tsql {
 /// Intermediate results: products of two unit counts never overflow it.
 __extension__ using Wide = __int128;
 
-/// Nothing if the value does not fit 64 bits.
+/// Empty if the value does not fit 64 bits.
 inline std::optional<std::int64_t> narrow(Wide value) {
   const auto narrowed = static_cast<std::int64_t>(value);
   return narrowed == value ? std::optional(narrowed) : std::nullopt;
@@ -37,7 +37,7 @@ Number quotientHalfAway(Number value, Number divisor) {
 
 }  // namespace inner
 
-/// 10^exponent; nothing outside 0 to 38.
+/// 10^exponent; empty outside 0 to 38.
 inline std::optional<Wide> powerOfTen(int exponent) {
   if (exponent < 0 || exponent > inner::kLargestPower) return std::nullopt;
   return inner::kPowersOfTen[static_cast<std::size_t>(exponent)];
@@ -45,7 +45,7 @@ inline std::optional<Wide> powerOfTen(int exponent) {
 
 /// value / divisor (above 0), half away from zero.
 inline Wide divideHalfAway(Wide value, Wide divisor) {
-  // Nearly all numbers fit 64 bits, and there a division is many times faster.
+  // Nearly all numbers fit 64 bits, where division is many times faster.
   const auto narrowValue = narrow(value);
   const auto narrowDivisor = narrow(divisor);
   if (narrowValue && narrowDivisor) return inner::quotientHalfAway(*narrowValue, *narrowDivisor);
