@@ -32,8 +32,8 @@ bool isSet(const char* name) {
   return value != nullptr && *value != '\0';
 }
 
-/// Drops what the offscreen platform says it cannot do, and messages on damaged pictures and on
-/// files that no program opens, which we report to the user ourselves.
+/// Drops the offscreen platform's complaints, and messages about damaged pictures and files that no
+/// program opens, which we report to the user ourselves.
 void say(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (text.startsWith(QLatin1String("This plugin does not support"))) return;
   if (text.startsWith(QLatin1String("Unable to detect a launcher"))) return;
@@ -48,8 +48,8 @@ bool ownFolder(const char* path) {
          (found.st_mode & 0777) == 0700;
 }
 
-/// Qt wants a UTF-8 character set and says so on standard error if LANG names none. Numbers and
-/// dates keep the user's settings.
+/// Qt warns on standard error unless LANG names a UTF-8 character set. Numbers and dates keep the
+/// user's settings.
 void useUtf8() {
   std::setlocale(LC_CTYPE, "");
   const bool utf8 = std::string_view(nl_langinfo(CODESET)) == "UTF-8";
@@ -91,7 +91,7 @@ struct Application::Environment {
       runtimeFolder.emplace("/tmp");
       setenv("XDG_RUNTIME_DIR", runtimeFolder->path().c_str(), 1);
     } catch (const ado::Error&) {
-      // Qt complains then, and works without one.
+      // Qt then warns, but works without one.
     }
   }
 

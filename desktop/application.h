@@ -7,12 +7,12 @@ class QWidget;
 
 namespace korvantes::desktop {
 
-/// Starts and ends the window system: made first in main, before any window, and destroyed last.
+/// Starts and ends the window system: create it first in main, before any window, and destroy it
+/// last.
 ///
 /// It chooses the platform (windows if there is a display, otherwise Qt's offscreen one, on which
-/// pictures and PDF still work), gives the process what Qt would otherwise complain about (a
-/// private runtime folder, a UTF-8 character set), and sets style, fonts and Spanish texts. One at
-/// a time.
+/// pictures and PDF still work), provides what Qt would otherwise warn about (a private runtime
+/// folder, a UTF-8 character set), and sets style, fonts and Spanish texts. Only one at a time.
 class Application {
  public:
   explicit Application(std::string programName = "korvantes");

@@ -25,7 +25,7 @@ class LabelWidget : public QLabel {
   }
 
   int room() const { return label_.Bordered() ? kBorderRoom : 0; }
-  /// Lines break at blanks if the label is high enough.
+  /// Lines break at blanks if the label is tall enough.
   bool wraps(int height) const { return height >= 2 * QFontMetrics(font()).height(); }
   FittedText shown() const {
     const int width = this->width() - 2 * room();
@@ -61,7 +61,7 @@ class LabelFace : public ControlFace {
 
   QWidget& widget() const override { return widget_; }
 
-  /// A label designed lower than a line of the current font is given the height of one.
+  /// A label designed shorter than a line of the current font gets the height of one.
   void place() override {
     QRect place = rectOf(label_);
     place.setHeight(std::max(place.height(), QFontMetrics(fontOf(label_.TextFont())).height()));

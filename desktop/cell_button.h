@@ -5,7 +5,7 @@
 
 namespace korvantes::desktop {
 
-/// The area of the button in a cell: at its right end, as high as the cell.
+/// The area of the button in a cell: at its right end, as tall as the cell.
 inline QRect cellButton(const QRect& cell) {
   constexpr int kWidth = 17;
   const int width = std::min(kWidth, cell.width());

@@ -49,7 +49,7 @@ class ChoiceModel : public QAbstractTableModel {
   const screen::ListDialog& dialog_;
 };
 
-/// The text without case and accents; ñ stays a letter of its own.
+/// The text without case and accents; ñ remains a separate letter.
 QString folded(const QString& text) {
   constexpr char16_t kTilde = 0x0303;
   QString result;
@@ -132,7 +132,7 @@ void ChoiceDialog::chooseCurrent() {
   accept();
 }
 
-/// The first row that begins with the text; where there is none, the current row stays.
+/// Moves to the first row that begins with the text; if none does, the current row stays.
 void ChoiceDialog::search(const QString& begin) {
   const QString wanted = folded(begin);
   const auto found = std::find_if(folded_.begin(), folded_.end(),

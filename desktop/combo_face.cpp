@@ -44,7 +44,7 @@ class EntryModel : public QAbstractListModel {
   int count_ = 0;
 };
 
-/// Qt opens and draws the list; the text, which only the model changes, is drawn by us.
+/// Qt opens and draws the list; we draw the text, which only the model changes.
 class ComboWidget : public QComboBox {
  public:
   ComboWidget(screen::ComboBox& combo, FaceWindow& window, QWidget& parent)

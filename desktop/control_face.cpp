@@ -11,7 +11,7 @@ void ControlFace::place() {
 }
 
 void ControlFace::show() {
-  // A frame is never disabled as a widget: its contents decide for themselves how they look.
+  // A frame is never disabled as a widget: its contents decide how they look.
   if (control_.kind() != screen::Control::Kind::Frame) widget().setEnabled(looksEnabled());
   showControl();
   widget().setVisible(control_.Visible());

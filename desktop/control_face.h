@@ -20,7 +20,7 @@ class FaceWindow {
   using Action = std::function<void(screen::UserInput& user)>;
 
   virtual ~FaceWindow() = default;
-  /// The user did something: the action tells the model, then the window shows the result.
+  /// Handles user input: the action notifies the model, then the window shows the result.
   virtual void report(const Action& action) = 0;
   virtual const screen::Form& form() const = 0;
 };
@@ -41,13 +41,14 @@ class ControlFace {
   void show();
   /// Shows the rows, after rowsChanged.
   virtual void showRows() {}
-  /// The user pressed a key that the toolkit handles, not the model: clipboard, opening a list.
+  /// Handles a key that belongs to the toolkit, not the model: clipboard, opening a list.
   virtual void command(const QKeyEvent&) {}
 
  protected:
   virtual void showControl() = 0;
   FaceWindow& window() const { return window_; }
-  /// Enabled in itself and its containers. A form disabled while it works looks as usual.
+  /// True if the control and its containers are enabled. A form disabled while it works looks as
+  /// usual.
   bool looksEnabled() const;
   /// Background behind the control: that of its frame, or of the form.
   screen::Color background() const;

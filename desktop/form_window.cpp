@@ -19,7 +19,7 @@ namespace korvantes::desktop {
 
 namespace {
 
-/// Graphical controls are below those that take input, whatever the order of their creation.
+/// Graphical controls are below those that take input, in whatever order they were created.
 bool isGraphical(const screen::Control& control) {
   using Kind = screen::Control::Kind;
   return control.kind() == Kind::Label || control.kind() == Kind::Image ||
@@ -131,7 +131,7 @@ void FormWindow::report(const Action& action) {
   try {
     action(user);
   } catch (...) {
-    // Nothing may pass through Qt: the exception propagates from the call that shows the form.
+    // Exceptions must not pass through Qt: this one propagates from the call that shows the form.
     stack_.keepFailure(std::current_exception());
     if (loop_ != nullptr) loop_->quit();
   }
@@ -200,13 +200,13 @@ void FormWindow::rowsChanged(screen::Control& control) {
 }
 
 void FormWindow::activeControlChanged() {
-  // Both the field that was left and the one entered show their beginning or their caret.
+  // The field left shows its beginning, the one entered its caret.
   for (const auto& [control, face] : faces_)
     if (control->kind() == screen::Control::Kind::TextBox) face->show();
   showLater();
 }
 
-/// For changes outside of a report, and in long events that let others run.
+/// For changes outside a user action, and in long events that let others run.
 void FormWindow::showLater() {
   if (std::exchange(showingLater_, true)) return;
   QTimer::singleShot(0, this, [this] {
@@ -250,7 +250,7 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::keyPressed(const QKeyEvent& event) {
   if (stack_.top() != this) return;
   const quint64 identity = pressIdentity(event);
-  // A key held down since before this window was on top does nothing here.
+  // A key held down since before this window came to the top does nothing here.
   if (event.isAutoRepeat() && !pressed_.contains(identity)) return;
   const screen::Key key = keyOf(event);
   pressed_[identity] = key.code;

@@ -16,7 +16,7 @@ namespace korvantes::desktop {
 class WindowStack;
 
 /// The window of one form. It shows the state of the form's controls, reports what the user does,
-/// and keeps Qt's focus where the model has it: Qt does not move the focus by itself here, and its
+/// and keeps Qt's focus where the model has it: Qt does not move the focus on its own, and its
 /// focus events are ignored.
 class FormWindow : public QWidget, public FaceWindow, private screen::FormObserver {
  public:
@@ -30,7 +30,8 @@ class FormWindow : public QWidget, public FaceWindow, private screen::FormObserv
   void open();
   /// Returns when the form has been unloaded or the application ends.
   void waitUntilClosed();
-  /// A window above was opened or closed: releases of keys pressed before are not for the form.
+  /// Call it when a window above was opened or closed: the form ignores the release of keys pressed
+  /// before.
   void forgetPresses() { pressed_.clear(); }
   /// The window is on top again.
   void takeFocusBack();

@@ -6,8 +6,8 @@
 
 namespace korvantes::desktop {
 
-/// The rows of a list, read from the control when they are painted. Qt only knows
-/// the state at the last readAgain.
+/// The rows of a list, read from the control as they are painted. Qt only knows the state at the
+/// last readAgain.
 class ListModel : public QAbstractTableModel {
  public:
   explicit ListModel(const screen::ListView& list);

@@ -1,5 +1,5 @@
 // desktop: the Qt 6 face of runtime/screen. It shows the state of the models and reports what the
-// user does; it holds no rules of screens.
+// user does; it has no screen logic.
 #pragma once
 
 #include <QColor>

@@ -105,7 +105,7 @@ void MessageDialog::keyPressEvent(QKeyEvent* event) {
     QGuiApplication::clipboard()->setText(text_);
     return;
   }
-  // The letter alone answers, as in the message boxes of the designed screens.
+  // The letter alone answers, without Alt, as in the original message boxes.
   if (!event->isAutoRepeat() && event->modifiers() == Qt::NoModifier) {
     if (event->key() == Qt::Key_S && button(screen::Answer::Yes) != nullptr)
       return choose(screen::Answer::Yes);

@@ -7,7 +7,7 @@
 
 namespace korvantes::desktop {
 
-/// A message box in Spanish, whatever the locale. Escape and the frame button mean Aceptar, or No
+/// A message box in Spanish, whatever the locale. Escape and the close button mean Aceptar, or No
 /// for a question: closing a question must not do what it asks about.
 class MessageDialog : public ModalDialog {
  public:

@@ -8,7 +8,7 @@ namespace korvantes::desktop {
 
 class WindowStack;
 
-/// A dialog of ours. It is on the stack while it is shown, and records whether Enter closed it: the
+/// One of our dialogs. It is on the stack while shown, and records whether Enter closed it: the
 /// release of that key then belongs to the form below.
 class ModalDialog : public QDialog {
  public:

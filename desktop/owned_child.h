@@ -7,7 +7,7 @@ class QWidget;
 
 namespace korvantes::desktop {
 
-/// Makes a widget that is owned by its parent, the last argument.
+/// Creates a widget owned by its parent, the last argument.
 template <class Widget, class... Arguments>
 Widget& makeChild(Arguments&&... arguments) {
   return *std::make_unique<Widget>(std::forward<Arguments>(arguments)...).release();

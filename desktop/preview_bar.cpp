@@ -112,7 +112,7 @@ void PreviewBar::zoomTo(int choice) {
                          100.0);
 }
 
-/// To the next percentage of the list in that direction.
+/// Zooms to the next percentage in the list in that direction.
 void PreviewBar::zoomBy(int direction) {
   const double now = pages_.zoomFactor() * 100;
   const int last = static_cast<int>(kPercentages.size()) - 1;

@@ -17,10 +17,10 @@ class PreviewBar : public QWidget {
  public:
   PreviewBar(QPrintPreviewWidget& pages, QWidget* parent);
 
-  /// Adds a button of the window on the left, or on the right of all tools.
+  /// Adds a button of the window, to the left or right of all tools.
   void addLeft(QPushButton& button);
   void addRight(QPushButton& button);
-  /// Shows which page is seen, and of how many.
+  /// Shows the current page and the number of pages.
   void showPlace();
   void goTo(int page);
 

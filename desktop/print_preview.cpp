@@ -77,7 +77,7 @@ void PrintPreview::showPages() {
   if (failure_) std::rethrow_exception(failure_);
 }
 
-/// No exception may pass through Qt.
+/// Exceptions must not pass through Qt.
 void PrintPreview::paintPages(QPrinter& printer) {
   try {
     document_.paint(printer);
@@ -97,8 +97,8 @@ void PrintPreview::print() {
   document_.setUp(printer);
   printer.setDocName(toQt(document_.title));
   QPrintDialog dialog(&printer, this);
-  // Not PrintPageRange: without it the print server selects the pages and we paint all of them. No
-  // file either: that is what saving as PDF is for.
+  // Not PrintPageRange: without it the print server selects the pages and we paint all of them. Nor
+  // PrintToFile: saving as PDF does that.
   dialog.setOptions(QAbstractPrintDialog::PrintCollateCopies);
   stack_.opened(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;

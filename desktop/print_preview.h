@@ -15,7 +15,7 @@ namespace korvantes::desktop {
 class PreviewBar;
 class QtDesktop;
 
-/// A document to view, print and save. It is painted each time that one of these needs it.
+/// A document to view, print and save. It is painted anew each time.
 struct PrintDocument {
   std::string title;                     ///< of the window, and the file name that a save offers
   std::function<void(QPrinter&)> setUp;  ///< paper and margins

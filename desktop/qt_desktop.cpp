@@ -33,7 +33,7 @@ void usePointer(int mousePointer) {
   if (const auto shape = busyShape(mousePointer)) QApplication::setOverrideCursor(*shape);
 }
 
-/// The usual pointer while a dialog waits for the user in the middle of long work.
+/// Shows the usual pointer while a dialog waits for the user during long work.
 class UsualPointer {
  public:
   explicit UsualPointer(int former) : former_(former) { usePointer(0); }
@@ -60,7 +60,7 @@ void QtDesktop::mainWindow(QWidget* window) {
 void QtDesktop::showModal(screen::Form& form) {
   const UsualPointer pointer(mousePointer());
   FormWindow window(form, *stack_, stack_->owner());
-  // However this function is left, the form is closed and off the stack.
+  // Whatever happens, the form ends up closed and off the stack.
   struct Shown {
     QtDesktop& desktop;
     screen::Form& form;

@@ -21,9 +21,9 @@ struct SaveRequest;
 
 /// The desktop of real windows. Needs an Application that outlives it.
 ///
-/// A form is shown in a window that is modal to the whole program; its frame button, Alt+F4 and
-/// whatever the form does with Escape unload it. When the program ends while forms are open, they
-/// are unloaded from the topmost down and the calls that show them return.
+/// A form is shown in an application-modal window; its close button, Alt+F4 and whatever the form
+/// does with Escape unload it. When the program ends while forms are open, they are unloaded from
+/// the topmost down and the calls that show them return.
 class QtDesktop : public screen::Desktop {
  public:
   QtDesktop();
@@ -35,7 +35,7 @@ class QtDesktop : public screen::Desktop {
   /// The open forms, topmost last.
   const std::vector<screen::Form*>& forms() const { return forms_; }
 
-  // Documents, for a user in front of the windows.
+  // Documents.
 
   /// Shows the pages of a document and returns when the user has closed it. Propagates exceptions
   /// of the painting.
@@ -43,7 +43,8 @@ class QtDesktop : public screen::Desktop {
   /// Asks where to save a file, starting in the folder of the last one, at first in the user's
   /// documents. Empty if the user cancels.
   std::optional<std::filesystem::path> askWhereToSave(const SaveRequest& request);
-  /// Asks the question, and on Yes opens the file with the program registered for it.
+  /// Asks the question and, if the answer is Yes, opens the file with the program registered for
+  /// it.
   void offerToOpen(const std::filesystem::path& file, const std::string& question);
 
   void showModal(screen::Form& form) override;
@@ -59,7 +60,7 @@ class QtDesktop : public screen::Desktop {
   void mousePointer(int shape) override;
 
  protected:
-  // Wait for the user to deal with what has just come up. A derived class may play the user.
+  // Wait for the user to deal with a new window. A derived class may play the user.
 
   /// Returns when the form has been unloaded.
   virtual void attend(screen::Form& form, FormWindow& window);

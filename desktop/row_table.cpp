@@ -21,8 +21,8 @@ constexpr int kHeadingMargin = 3;
 constexpr int kSortMark = 10;
 constexpr int kCellMargin = 3;
 
-/// Digits and what stands between them: an amount, a rate, a day, a code. Cut short it would read
-/// as another one.
+/// True for digits and separators: an amount, a rate, a date, a code. Cut short, it would read as a
+/// different one.
 bool isNumber(const QString& text) {
   static const QString kBetween = " .,-/%€";
   bool digits = false;
@@ -45,7 +45,8 @@ class RowDelegate : public QStyledItemDelegate {
   }
 
  protected:
-  /// The mark of the current row is paler while the focus is elsewhere; no single cell is framed.
+  /// The current row is highlighted more faintly while the focus is elsewhere; single cells get no
+  /// frame.
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state.setFlag(QStyle::State_HasFocus, false);
@@ -61,7 +62,7 @@ class RowDelegate : public QStyledItemDelegate {
       option->palette.setColor(QPalette::HighlightedText, QColor(0x14, 0x14, 0x14));
     }
   }
-  /// The whole text of a cell that shows it cut.
+  /// Tooltip: the whole text of a cell that shows it cut.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
     const QString text = index.data().toString();

@@ -7,8 +7,8 @@
 namespace korvantes::desktop {
 
 /// A table of rows for lists and grids: one current row, rows of one height, headings that always
-/// show their captions. The table decides nothing: presses are handed to the functions below, keys
-/// to the form, and the current row is set from outside.
+/// show their captions. The table has no logic: clicks go to the functions below, keys to the form,
+/// and the current row is set from outside.
 class RowTable : public QTableView {
  public:
   explicit RowTable(QWidget& parent);
@@ -22,7 +22,7 @@ class RowTable : public QTableView {
 
   /// Marks the row and brings it into view.
   void showCurrentRow(std::optional<int> row);
-  /// Adapts the height of the headings to their captions. Call after a change of columns.
+  /// Fits the height of the headings to their captions. Call it after changing columns.
   void fitHeadings();
   void colors(const QColor& back, const QColor& text);
   void type(const QFont& font);

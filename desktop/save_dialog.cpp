@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize kSize(720, 460);
 
-/// Asks before a file is replaced, with a message box of ours.
+/// Asks before replacing a file, with our own message box.
 class SaveDialog : public QFileDialog {
  public:
   SaveDialog(QtDesktop& desktop, WindowStack& stack, const SaveRequest& request,

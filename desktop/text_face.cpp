@@ -31,8 +31,8 @@ int fromQtPlace(const QString& text, int place) {
   return index;
 }
 
-/// A line of text of which Qt draws text, caret and selection. What is typed, pasted, dropped or
-/// composed goes to the model, which filters it; the field then shows the text of the model.
+/// A text field. Qt draws text, caret and selection; what is typed, pasted, dropped or composed
+/// goes to the model, which filters it, and the field then shows the model's text.
 class TextWidget : public QLineEdit {
  public:
   TextWidget(screen::TextBox& box, FaceWindow& window, QWidget& parent)
@@ -67,7 +67,7 @@ class TextWidget : public QLineEdit {
     const bool hadFocus = hasModelFocus();
     window_.report([&](screen::UserInput& user) { user.moveFocus(box_); });
     if (!hasModelFocus() || event->button() != Qt::LeftButton) return;
-    // A selection that the model made when the focus came stays.
+    // Keep a selection that the model made when the focus arrived.
     if (!hadFocus && box_.SelLength() > 0) return;
     selectByMouse([&] { QLineEdit::mousePressEvent(event); });
   }
@@ -104,7 +104,7 @@ class TextWidget : public QLineEdit {
     give(text);
   }
 
-  /// What is being composed is shown; what has been composed is pasted.
+  /// Text being composed is shown; composed text is pasted.
   void inputMethodEvent(QInputMethodEvent* event) override {
     const QString composed = event->commitString();
     QInputMethodEvent preedit(event->preeditString(), event->attributes());
@@ -146,7 +146,7 @@ class TextWidget : public QLineEdit {
     window_.report([&](screen::UserInput& user) { user.paste(fromQt(text)); });
   }
 
-  /// Lets Qt move caret and selection, and tells the model where they are.
+  /// Lets Qt move caret and selection, and reports them to the model.
   void selectByMouse(const std::function<void()>& move) {
     const QScopedValueRollback guard(selecting_, true);
     move();

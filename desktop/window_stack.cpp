@@ -94,7 +94,7 @@ void WindowStack::settleLater() {
 }
 
 void WindowStack::settle() {
-  // Keys that a closing form has not taken are for the one below, once it is on top.
+  // Keys that a closing form has not received go to the form below once it is on top.
   while (!queue_.empty() && topForm() != nullptr && topForm()->form().loaded()) {
     const Queued next = queue_.front();
     queue_.pop_front();

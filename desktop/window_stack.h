@@ -14,9 +14,9 @@ namespace korvantes::desktop {
 
 class FormWindow;
 
-/// The windows that the desktop has open, and the keys that wait for the topmost form: keys sent
-/// by the program, and releases of the Enter that closed a dialog. They reach the form when no
-/// dialog is above it and the running event has ended, or when the program lets events run.
+/// The desktop's open windows, and the keys waiting for the topmost form: keys sent by the program,
+/// and the release of the Enter that closed a dialog. They reach the form when no dialog is above
+/// it and the running event has ended, or when the program lets events run.
 class WindowStack : public QObject {
  public:
   WindowStack();
@@ -24,7 +24,7 @@ class WindowStack : public QObject {
 
   void opened(QWidget& window, FormWindow* form = nullptr);
   void closed(QWidget& window);
-  /// A dialog was answered without being shown.
+  /// Call it when a dialog was answered without being shown.
   void passed() { changed(); }
 
   /// The topmost window, form or dialog; nullptr if none is open.
