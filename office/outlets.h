@@ -1,5 +1,5 @@
-// office: the outside objects that print reports and write spreadsheets. Where a finished document
-// goes is up to whoever registers them, through the outlets below.
+// office: the outside objects that print reports and write spreadsheets. Whoever registers them
+// decides where documents go, through the outlets below.
 #pragma once
 
 #include <cstddef>
@@ -16,8 +16,8 @@ namespace korvantes::office {
 class SheetOutlet {
  public:
   virtual ~SheetOutlet() = default;
-  /// The file to write, which replaces an existing one. Empty if the user cancels: then nothing is
-  /// written and nothing reported.
+  /// The file to write; an existing one is replaced. Empty if the user cancels: nothing is then
+  /// written or reported.
   /// @param suggestedName a file name with its extension, without a folder
   virtual std::optional<std::filesystem::path> fileFor(const std::string& suggestedName) = 0;
   /// Called once the file is complete under its name.

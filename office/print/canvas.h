@@ -53,7 +53,7 @@ class Canvas {
             Ink ink = Ink::Black);
   /// One line at the right edge, made smaller where needed and never cut.
   void number(const QRectF& box, Face face, const QString& digits, Ink ink = Ink::Black);
-  /// A line of a table; texts are elided, numbers (aligned to the right) are not.
+  /// A line of a table. Texts are elided; numbers (right-aligned) never are.
   void cells(double y, double height, Face face, std::span<const Column> columns,
              std::span<const QString> texts, Ink ink = Ink::Black);
   /// The same with each column's caption in small type before its number.

@@ -16,8 +16,8 @@ namespace korvantes::office {
 ///
 /// Properties: sAcotacion1, a text, the limits of the search as a sentence; MyBd, the database
 /// service. Method: ShowReport, with a report number, the text of a statement and 0; or with a
-/// number, "", 0, four omitted arguments and a recordset, whose current row stays where it was.
-/// Report 11 is one settlement with its delivery notes, report 12 a list of settlements.
+/// number, "", 0, four omitted arguments and a recordset, whose current row does not change. Report
+/// 11 is one settlement with its delivery notes, report 12 a list of settlements.
 class MZPrint : public Object {
  public:
   /// Throws std::logic_error without an outlet.

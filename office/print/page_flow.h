@@ -10,8 +10,8 @@ class QPainter;
 
 namespace korvantes::office {
 
-/// Lines one below the other, across pages. A flow without a painter only counts the pages, so that
-/// a report of any length learns its number of pages without being kept in memory.
+/// Lays out lines one below the other, across pages. A flow without a painter only counts pages, so
+/// a report of any length gets its number of pages without being kept in memory.
 class PageFlow {
  public:
   /// Printed at the foot of every page, with the page number.

@@ -6,11 +6,11 @@
 
 namespace korvantes::office {
 
-/// A report that is written line by line: once to count its pages, and once to paint them.
+/// A report written line by line: once to count its pages, and once to paint them.
 class PagedReport : public Report {
  public:
   void setUp(QPagedPaintDevice& device) const final;
-  /// Throws ado::Error when the device cannot be painted on.
+  /// Throws ado::Error if the device cannot be painted on.
   void paint(QPagedPaintDevice& device) const final;
 
  protected:

@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kAmount = "#,##0.00";
 constexpr const char* kPercent = "##0.00";
 
-/// Line breaks and tabs have no place in a cell.
+/// A cell must not contain line breaks or tabs.
 QString onOneLine(QString text) {
   const auto isControl = [](QChar letter) { return letter.unicode() < u' '; };
   std::replace_if(text.begin(), text.end(), isControl, QChar(u' '));

@@ -15,11 +15,11 @@ class ReportTexts {
  public:
   explicit ReportTexts(screen::Regional regional) : regional_(std::move(regional)) {}
 
-  /// "1.234,56"; empty for nothing.
+  /// "1.234,56"; empty for an empty value.
   QString amount(const std::optional<ado::Decimal>& amount) const;
   /// "7,50"; empty for Null.
   QString percent(const ado::Variant& percent) const;
-  /// "24/11/2026", or `instead` for Null.
+  /// "24/11/2026"; `instead` for Null.
   QString date(const ado::Variant& date, const char* instead = "") const;
   /// "A/123"; the number alone without a series, empty without a number.
   QString document(const ado::Variant& series, const ado::Variant& number) const;
@@ -30,7 +30,7 @@ class ReportTexts {
   screen::Regional regional_;
 };
 
-/// Says that the commissions of a settlement's notes are no longer its stored base.
+/// Says that the commissions of a settlement's notes no longer add up to its stored base.
 QString changedSinceSettled(const QString& commissions);
 
 /// "1 albarán", "2000 albaranes".

@@ -6,7 +6,7 @@
 
 namespace korvantes::office {
 
-/// The head of a settlement as it is stored. Anything but its number may be Null.
+/// The stored header of a settlement. Everything but its number may be Null.
 struct Settlement {
   std::int64_t number = 0;
   ado::Variant agent, agentName, agentTaxNumber;

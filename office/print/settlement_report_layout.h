@@ -18,7 +18,7 @@ constexpr double kTitle = 10, kContinuation = 6, kCaptions = 5.5;
 constexpr double kRow = 4.7, kSubtotal = 5.2, kGrandTotal = 6, kRemark = 4.4, kFact = 5;
 constexpr double kGap = 4, kSmallGap = 1.5, kContinuedWidth = 25;
 
-/// The head: the agent on the left, the settlement's facts on the right.
+/// The heading: the agent on the left, data of the settlement on the right.
 constexpr double kAgentLabel = 16, kAgentText = 92, kFactLabel = 28, kFactText = 44;
 
 /// The amounts at the end.

@@ -16,7 +16,7 @@ struct StoredRange {
   bool undated = false;
 };
 
-/// A settlement with its amounts in cents; nothing for Null.
+/// A settlement with its amounts in cents; empty for Null.
 struct StoredSettlement {
   std::int32_t number = 0;
   ado::Variant agent, date;

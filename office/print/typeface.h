@@ -10,8 +10,8 @@ class QPaintDevice;
 
 namespace korvantes::office {
 
-/// A font on a device, with the widths of its letters at hand: a report of many thousand rows must
-/// not have each cell laid out only to be measured. All measures are in units of the device.
+/// A font on a device, with cached letter widths: a report of many thousand rows must not lay out
+/// each cell just to measure it. All measures are in units of the device.
 class Typeface {
  public:
   Typeface(double points, bool bold, QPaintDevice& device);

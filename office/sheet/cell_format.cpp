@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view kPlaces = "0#.,";
 
-/// In quotes: a % or a letter would have a meaning of its own.
+/// Quoted, because a % or a letter would have a special meaning.
 std::string literal(std::string_view text) {
   std::string plain(text);
   plain.erase(std::remove(plain.begin(), plain.end(), '"'), plain.end());

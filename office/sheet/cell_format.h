@@ -7,7 +7,7 @@ namespace korvantes::office {
 
 /// How a sheet shows the numbers or dates of a column.
 struct CellFormat {
-  std::string code;  ///< as a workbook stores it; empty: as it comes
+  std::string code;  ///< as stored in a workbook; empty: no format
   int places = 0;    ///< decimals
   bool grouped = false;
 };

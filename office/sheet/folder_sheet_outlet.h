@@ -10,7 +10,7 @@
 
 namespace korvantes::office {
 
-/// Spreadsheets without a display: into the output folder, with nobody asked.
+/// Writes spreadsheets to the output folder without asking, for hosts without a display.
 class FolderSheetOutlet : public SheetOutlet {
  public:
   using Written = std::function<void(const std::filesystem::path& file, std::size_t rows)>;

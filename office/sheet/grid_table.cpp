@@ -30,7 +30,7 @@ SheetColumn::Kind kindOf(ado::FieldType type) {
   return SheetColumn::Kind::Text;
 }
 
-/// "Lca" of "Lca_Base": the table that a field is of. Empty for one worked out for each row.
+/// "Lca" of "Lca_Base": the table of a field. Empty for a computed field.
 std::string_view tableOf(const ado::FieldDefinition& field) {
   const std::string_view name = field.name;
   const std::size_t end = name.find('_');

@@ -6,10 +6,10 @@
 
 namespace korvantes::office {
 
-/// The rows of a recordset under the visible columns of a grid, in the grid's formats. A grid with
-/// another number of columns than the recordset has fields is bound to something else: then the
-/// fields are the columns. A field of a table ("Fav_Bruto") has no total where the fields include
-/// the key of another table ("Lca_Id"): its amount may be in several rows.
+/// The rows of a recordset under the visible columns of a grid, in the grid's formats. If the
+/// numbers of columns and fields differ, the grid is bound to something else, and the fields become
+/// the columns. A field of a table ("Fav_Bruto") has no total where the fields include the key of
+/// another table ("Lca_Id"): its amount may be in several rows.
 class GridTable : public SheetTable {
  public:
   /// Throws ado::Error when the recordset is closed or no column is visible.

@@ -18,7 +18,7 @@ namespace korvantes::office {
 /// yyyy-mm-dd. All others stay texts.
 class ListTable : public SheetTable {
  public:
-  /// The list must outlive it and stay as it is meanwhile.
+  /// The list must outlive this object and not change meanwhile.
   ListTable(const screen::ListView& list, screen::Regional regional);
 
   std::size_t rows() const override { return list_.Count(); }
@@ -27,7 +27,7 @@ class ListTable : public SheetTable {
 
  private:
   SheetColumn described(std::size_t source) const;
-  /// Most decimals of the column's cells; nothing where one of them is no number.
+  /// Most decimals of the column's cells; empty if one of them is not a number.
   std::optional<int> decimalsOf(std::size_t source) const;
   bool allDates(std::size_t source) const;
   std::optional<ado::Decimal> numberIn(std::string_view text) const;

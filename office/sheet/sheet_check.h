@@ -5,9 +5,9 @@
 
 namespace korvantes::office {
 
-/// Whether the first sheet of a workbook is complete: libxlsxwriter does not notice when the disk
-/// is full while it puts the sheet together, and packs what it has.
-/// @param rowBytes length of all rows, as the workbook stores them before it packs them
+/// Whether the first sheet of a workbook is complete: libxlsxwriter does not notice a full disk
+/// while it assembles the sheet, and packs an incomplete one.
+/// @param rowBytes length of all rows, as stored before packing
 bool sheetIsWhole(const std::string& file, std::uint64_t rowBytes);
 
 }  // namespace korvantes::office

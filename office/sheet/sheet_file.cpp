@@ -44,7 +44,7 @@ bool lockedElsewhere(int file) {
   return false;
 }
 
-/// An existing file must be one that its owner would give up.
+/// Checks that an existing file may be replaced.
 void requireReplaceable(const fs::path& file, const fs::file_status& status) {
   if (fs::is_directory(status)) throw writeFailure(file, EISDIR);
   if (!fs::is_regular_file(status)) throw writeFailure(file, "no es un fichero corriente");

@@ -13,21 +13,21 @@ namespace korvantes::office {
 ado::Error writeFailure(const std::filesystem::path& file, int errorNumber);
 ado::Error writeFailure(const std::filesystem::path& file, const std::string& words);
 
-/// A file that appears whole under its name or not at all. It is written in a private
-/// folder beside its target, which is removed afterwards.
+/// A file that appears complete under its name or not at all. It is written in a private folder
+/// next to its target; the folder is then removed.
 class SheetFile {
  public:
-  /// Throws ado::Error when the file could not be put there: no such folder, no permission, a file
-  /// in its place that is write-protected, locked by another program, or no file at all. A symbolic
-  /// link in its place is followed.
+  /// Throws ado::Error if the file could not be put there: no such folder, no permission, or the
+  /// existing file is write-protected, locked by another program, or not a regular file. Follows a
+  /// symbolic link.
   explicit SheetFile(const std::filesystem::path& place);
 
   /// For temporary files, on the same disk.
   const std::filesystem::path& folder() const { return folder_->path(); }
   /// Where to write the contents.
   std::filesystem::path draft() const;
-  /// Moves the draft to its target once its bytes are on the disk, with the permissions of a file
-  /// that it replaces. Throws ado::Error.
+  /// Moves the draft to its target once its bytes are on the disk, keeping the permissions of a
+  /// file that it replaces. Throws ado::Error.
   void commit();
 
  private:

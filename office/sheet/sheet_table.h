@@ -20,10 +20,10 @@ struct SheetColumn {
   screen::Alignment alignment = screen::Alignment::Left;
   Kind kind = Kind::Text;
   CellFormat format;
-  bool totalled = false;  ///< has its sum below
+  bool totalled = false;  ///< has a total below
 };
 
-/// What is written, read row by row without a copy.
+/// The data to write, read row by row without a copy.
 class SheetTable {
  public:
   /// Texts of the column of ticks.

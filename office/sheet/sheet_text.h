@@ -8,7 +8,7 @@ namespace korvantes::office {
 /// units of UTF-16. A longer one is cut and ends in "…"; what is not valid becomes U+FFFD.
 std::string cellText(const std::string& text);
 
-/// "TITLE.xlsx", without characters that file systems refuse and not longer than they allow.
+/// "TITLE.xlsx", without characters that file systems reject and no longer than they allow.
 std::string fileNameFor(const std::string& title);
 
 }  // namespace korvantes::office

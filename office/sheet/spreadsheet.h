@@ -14,12 +14,12 @@ class SheetTable;
 
 /// The object "BELTRIS.bSheets". Its members, regardless of case:
 ///
-/// - property `sTitulo`: the title above the table, and the name offered for the file;
+/// - property `sTitulo`: the title above the table, and the suggested file name;
 /// - `ListToExcel(ListView)`: all rows of the list, in the order on the screen, ticks as a column;
 /// - `GridToExcel(recordset, DataGrid)`: all rows of the recordset under the visible columns of the
 ///   grid. The recordset's current row stays as it is.
 ///
-/// Both return when the file is complete under its name, or at once when the outlet gives no file.
+/// Both return once the file is complete under its name, or at once if the outlet returns no file.
 /// Every failure is an ado::Error with a Spanish sentence and leaves an existing file unchanged.
 class Spreadsheet : public Object {
  public:

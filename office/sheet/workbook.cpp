@@ -21,7 +21,7 @@ Workbook::Workbook(const std::filesystem::path& file, const std::filesystem::pat
                    std::filesystem::path place, const char* sheetName)
     : file_(file), temporary_(temporary), place_(std::move(place)) {
   errno = 0;
-  // Sheets of more than 4 GB without compression would need ZIP64; a million rows stay far below.
+  // Only uncompressed sheets of more than 4 GB need ZIP64; a million rows are far below.
   lxw_workbook_options options{LXW_TRUE, temporary_.data(), LXW_FALSE};
   book_ = ::workbook_new_opt(file_.c_str(), &options);
   if (book_ != nullptr) sheet_ = ::workbook_add_worksheet(book_, sheetName);

@@ -35,9 +35,9 @@ class Workbook {
   lxw_worksheet* sheet() const { return sheet_; }
   lxw_format* newFormat() const;
 
-  /// Throws ado::Error when rows written before did not reach the disk.
+  /// Throws ado::Error if rows written before did not reach the disk.
   void requireWritten() const;
-  /// Completes the file. Throws ado::Error also where the library did not notice that the disk was
+  /// Completes the file. Throws ado::Error, even if the library did not notice that the disk was
   /// full.
   void close();
 

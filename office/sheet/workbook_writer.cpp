@@ -56,7 +56,7 @@ class TableWriter {
   }
 
  private:
-  /// What is learnt about a column while its rows are written, and its formats.
+  /// A column's formats, and what is found out while its rows are written.
   struct Column {
     lxw_format* heading = nullptr;
     lxw_format* cell = nullptr;
@@ -168,11 +168,11 @@ void TableWriter::writeHeading() const {
     writeText(kHeadingRow, column, described(column).caption, columns_[column].heading);
 }
 
-/// Before the rows: the library refuses it once they have left the memory.
+/// Before the rows: the library rejects it once they have left memory.
 void TableWriter::setUpFilter() const {
   if (table_.rows() == 0) return;
   ::worksheet_autofilter(sheet_, kHeadingRow, 0, lastRow(), columnNumber(columns_.size() - 1));
-  // Document numbers are texts on purpose; the sheet need not warn about them.
+  // Document numbers are text on purpose: suppress the warning about them.
   std::string texts;
   for (std::size_t i = 0; i < columns_.size(); ++i)
     if (described(i).kind == SheetColumn::Kind::Text)
@@ -191,8 +191,8 @@ void TableWriter::writeRow(std::size_t row) {
 
 void TableWriter::writeCell(lxw_row_t row, std::size_t column, const ado::Variant& value,
                             bool ticked) {
-  // From this day on a sheet counts from the end of 1899; before, its calendar has a day that never
-  // existed.
+  // From this day on a sheet counts days from the end of 1899; its calendar before that has a day
+  // that never existed.
   constexpr ado::Date kFirstDay{1900, 3, 1};
   constexpr long kDaysTo1970 = 25569;
   lxw_format* format = columns_[column].cell;
@@ -214,7 +214,7 @@ void TableWriter::writeCell(lxw_row_t row, std::size_t column, const ado::Varian
                                static_cast<double>(value.date().serial() + kDaysTo1970), format);
       return;
     case Kind::Text:
-      // Fields of fixed length come padded with blanks, which no search in a sheet expects.
+      // Fixed-length fields are padded with blanks, which a search in a sheet does not expect.
       return writeText(row, column, withoutTrailingBlanks(value.text()), format);
   }
 }
@@ -288,8 +288,8 @@ std::string TableWriter::range(std::size_t column) const {
 }
 
 void TableWriter::setWidths() const {
-  // At 96 points an inch a twip is the fifteenth part of a point. Figures of the usual font are 7
-  // points wide, bold ones a little more; a number that does not fit shows as #####.
+  // At 96 pixels an inch, 15 twips are a pixel. Digits in the default font are 7 pixels wide, bold
+  // ones a little more; a number that does not fit shows as #####.
   constexpr double kTwips = 15, kFigure = 7.6, kMargin = 10, kFilterButton = 20;
   constexpr double kWidestHeading = 260, kWidest = 1780;
   constexpr std::size_t kDateFigures = 10;
