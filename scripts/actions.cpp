@@ -79,7 +79,7 @@ void pushButton(Run& run, std::string_view text) {
   run.user().click(button);
 }
 
-/// A mark that is already as wanted needs no click; the focus moves there anyway.
+/// If the mark is already as wanted, no click is needed; the focus moves there anyway.
 void setMark(Run& run, std::string_view text, bool checked) {
   Words words(text);
   screen::Control& control = usableControl(run, words.word("la casilla"));

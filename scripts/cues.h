@@ -18,8 +18,8 @@ struct Reply {
   bool byEnter;  ///< the dialog was closed by the Enter key, whose release reaches the form below
 };
 
-/// What a script or a test decides in place of a user. Each may be empty; a dialog without a cue of
-/// its own is cancelled (lists, files) or gets a click on its default button (messages).
+/// What a script or a test decides instead of a user. Each may be empty; a dialog without a cue is
+/// cancelled (lists, files) or gets a click on its default button (messages).
 struct Cues {
   /// Called again and again with the topmost form until that form is closed.
   std::function<void(screen::Form&)> whileShown;

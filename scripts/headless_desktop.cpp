@@ -9,7 +9,7 @@
 
 namespace korvantes::scripts {
 
-/// Tells the model of the topmost form what the user does.
+/// Reports user actions to the model of the topmost form.
 class HeadlessDesktop::ModelUser : public User {
  public:
   explicit ModelUser(HeadlessDesktop& desktop) : desktop_(desktop) {}
@@ -41,7 +41,7 @@ screen::UserInput HeadlessDesktop::input() const {
 }
 
 void HeadlessDesktop::settle() {
-  // Keys that a closing form has not taken are for the one below, once it is on top.
+  // Keys that a closing form has not received go to the form below once it is on top.
   while (!queue_.empty() && !forms_.empty() && forms_.back()->loaded()) {
     const Queued next = queue_.front();
     queue_.pop_front();
@@ -57,7 +57,7 @@ void HeadlessDesktop::run(const Queued& queued) {
 }
 
 void HeadlessDesktop::showModal(screen::Form& form) {
-  // However this function is left, the form is closed and off the stack.
+  // Whatever happens, the form ends up closed and off the stack.
   struct Shown {
     HeadlessDesktop& desktop;
     screen::Form& form;
@@ -67,7 +67,7 @@ void HeadlessDesktop::showModal(screen::Form& form) {
   ++windowChanges_;
   screen::UserInput(form).shown();
   while (form.loaded()) {
-    // A copy: the user may set another one while it plays.
+    // A copy: the callback may replace itself while it runs.
     if (const auto play = whileShown)
       play(form);
     else

@@ -30,7 +30,7 @@ class HeadlessDesktop : public screen::Desktop, public Stage {
   std::optional<std::string> chooseFile(const screen::FileDialog& dialog) override;
   void sendKeys(std::string_view keys) override;
   void processEvents() override;
-  /// Knows bmp, jpg, gif and tif by their first bytes and keeps the file as it is.
+  /// Recognises bmp, jpg, gif and tif by their first bytes and keeps the file unchanged.
   screen::Picture loadPicture(const std::string& path) override;
   void savePicture(const screen::Picture& picture, const std::string& path) override;
   ado::Moment now() const override;

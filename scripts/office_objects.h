@@ -22,7 +22,7 @@ void offerSpreadsheets(office::Registry& objects, std::shared_ptr<office::SheetO
 /// created with the first one. The transcript must outlive the offer.
 void offerDocumentsInFolder(office::Registry& objects, std::filesystem::path folder,
                             Transcript& transcript);
-/// Ends the offer: creating such an object throws ado::Error from then on.
+/// Withdraws the offer: creating such an object then throws ado::Error.
 void withdrawDocuments(office::Registry& objects);
 
 /// The same for reports alone. A program built without windows cannot lay out pages: there,

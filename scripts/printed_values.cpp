@@ -7,7 +7,7 @@
 namespace korvantes::scripts {
 namespace {
 
-/// Numbers in results have a point, whatever the regional settings of the screens.
+/// Numbers in results have a point, regardless of the regional settings.
 const screen::Regional kPlainNumbers{"", '.', ','};
 
 std::string hexadecimal(const ado::Bytes& bytes) {

@@ -8,8 +8,8 @@
 
 namespace korvantes::scripts {
 
-/// A desktop and somebody in front of it: what a script or a test needs to play the user. Whoever
-/// plays sets the cues, which are members of the stage, and acts through user().
+/// A desktop and its user, for a script or a test. Set the cues, which are members of the stage,
+/// and act through user().
 class Stage : public Cues {
  public:
   Stage() = default;

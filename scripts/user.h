@@ -8,11 +8,11 @@
 
 namespace korvantes::scripts {
 
-/// Somebody in front of a desktop who acts on its topmost form. On every kind of desktop the same
-/// actions bring about the same events in the same order, those of screen::UserInput.
+/// A user who acts on the topmost form of a desktop. On every kind of desktop the same actions
+/// raise the same events in the same order, those of screen::UserInput.
 ///
-/// Each action throws std::logic_error if no form is open. Nothing happens where the user could do
-/// nothing, on a disabled control for instance.
+/// Each action throws std::logic_error if no form is open. It does nothing where a user could not
+/// act, for instance on a disabled control.
 class User {
  public:
   User() = default;
@@ -39,13 +39,13 @@ class User {
   virtual void selectRow(screen::DataGrid& grid, std::size_t row);
   /// Columns count from 0.
   virtual void pressCellButton(screen::DataGrid& grid, int column);
-  /// The frame button of the window.
+  /// The window's close button.
   virtual void close();
   /// Runs what is queued: keys sent by the program, the release of an Enter that closed a dialog.
   virtual void settle() = 0;
 
  protected:
-  /// Tells the model of the topmost form directly, without any gesture.
+  /// Acts on the model of the topmost form directly, without a gesture.
   virtual bool tell(const std::function<bool(screen::UserInput&)>& action) = 0;
 };
 

@@ -30,7 +30,7 @@ void WindowDesktop::attend(screen::Form& form, desktop::FormWindow& window) {
   if (!played()) return QtDesktop::attend(form, window);
   while (form.loaded()) {
     QCoreApplication::processEvents();
-    // A copy: the user may set another one while it plays.
+    // A copy: the callback may replace itself while it runs.
     if (const auto play = whileShown; form.loaded() && play) play(form);
   }
 }

@@ -22,8 +22,8 @@ namespace korvantes::scripts {
 
 /// The user of real windows: sends them key and mouse events.
 ///
-/// Where no gesture of a mouse does just one thing (the focus on a button without a click, all of a
-/// field's text replaced in one go, a control that another one covers), the model is told directly.
+/// Where no mouse gesture does exactly one thing (focus on a button without a click, replacing all
+/// of a field's text at once, a covered control), it acts on the model directly.
 class WindowUser : public User {
  public:
   explicit WindowUser(desktop::WindowStack& stack) : stack_(stack) {}
