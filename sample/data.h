@@ -1,5 +1,5 @@
-// The sample database: what a newcomer plays with, and what tests and demonstrations lean on. It is
-// the same on every machine and at every time.
+// The sample database, for new users, tests and demonstrations. It is always the same, on every
+// machine.
 #pragma once
 
 #include "runtime/ado/connection.h"
@@ -19,8 +19,8 @@ void loadCompanySample(ado::Connection& connection);
 /// Whether one of the shared tables has no row.
 bool lacksSharedRows(ado::Connection& connection);
 
-/// Whether the company's tables hold the sample, which is told by its customers: no screen changes
-/// them.
+/// Whether the company's tables hold the sample, recognised by its customers, which no screen
+/// changes.
 bool isSample(ado::Connection& connection);
 
 }  // namespace korvantes::sample

@@ -6,7 +6,7 @@
 
 namespace korvantes::sample {
 
-/// A generator of its own, so that the sample is the same with every compiler and library.
+/// Our own generator, so that the sample is the same with every compiler and library.
 class Dice {
  public:
   explicit Dice(std::uint64_t seed) : state_(seed) {}

@@ -17,7 +17,7 @@ constexpr int kOrders = 20;
 constexpr ado::Date kFirstDay{2024, 1, 8};
 constexpr ado::Date kLastDay{2026, 6, 30};
 
-/// Cav_Situa. Settlements take invoiced notes alone.
+/// Cav_Situa. Only invoiced notes are settled.
 constexpr int kToInvoice = 1, kInvoiced = 2, kCancelled = 3, kDeposit = 4;
 
 // Receipts of older and of newer invoices, taken in turn.
@@ -215,7 +215,7 @@ class DocumentMaker {
       if (note.id % 2 == 0) note.invoice = 0;
       note.state = note.id % 5 == 0 ? kDeposit : note.id % 4 == 0 ? kCancelled : kToInvoice;
     }
-    // A free note bears Null or 0.
+    // An unsettled note has Null or 0.
     if (note.id % 7 == 0) note.settlement = 0;
     makeSpecial(note, invoice);
     if (invoiced) {

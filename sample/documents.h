@@ -58,7 +58,7 @@ struct SampleDocuments {
 };
 
 /// 120 invoices with their receipts, 180 delivery notes and 20 orders, from January 2024 to June
-/// 2026; no note is settled yet. Always the same ones.
+/// 2026; no note is settled yet. They are always the same.
 SampleDocuments makeDocuments();
 
 void loadDocuments(ado::Connection& connection, const SampleDocuments& documents);

@@ -93,7 +93,7 @@ struct Situation {
   const char* text;
 };
 
-// Process 3 in language 0 holds the fiscal regimes; the others belong to other screens of the sales
+// Process 3 in language 0 is the tax regimes; the others belong to other screens of the sales
 // application.
 constexpr Situation kSituations[] = {
     {1, 0, 1, "Pendiente de facturar"},

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kRowsOfStatement = 50;
 
-/// A value as a statement carries it; texts and dates are quoted where all texts are.
+/// A value as written in a statement; texts and dates are quoted by the common function.
 std::string literal(const ado::Variant& value) {
   using Kind = ado::Variant::Kind;
   using plindor::ListaCampos;

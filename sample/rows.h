@@ -17,7 +17,7 @@ using Row = std::vector<ado::Variant>;
 void insertRows(ado::Connection& connection, std::string_view table, std::string_view columns,
                 const std::vector<Row>& rows);
 
-/// The value, or Null where there is none.
+/// The value, or Null if empty.
 template <class T>
 ado::Variant orNull(const std::optional<T>& value) {
   return value ? ado::Variant(*value) : ado::Variant();

@@ -54,7 +54,7 @@ bool isOffered(const SampleDocuments& documents, const SampleNote& note, const P
   if (note.agent != plan.agent || note.state != 2 || note.settlement.value_or(0) != 0) return false;
   const SampleInvoice* invoice = invoiceOf(documents, note);
   if (invoice == nullptr) return false;
-  // The worked example stays free, and nobody settles what is not invoiced yet.
+  // The note of the worked example stays unsettled; notes without an invoice cannot be settled.
   if (note.id == 1 || (plan.limit && invoice->date > *plan.limit)) return false;
   if (plan.date && invoice->date > *plan.date) return false;
   if (plan.collected && plan.pending)

@@ -5,8 +5,8 @@
 
 namespace korvantes::sample {
 
-/// Settles some of the notes as the settlement screen would have done at the time: writes the
-/// settlements with their details, and marks the notes with the keys that the database gave.
+/// Settles some of the notes as the settlement screen would have done: writes the settlements with
+/// their details, and marks the notes with the keys that the database assigned.
 void settleSample(ado::Connection& connection, SampleDocuments& documents);
 
 }  // namespace korvantes::sample
