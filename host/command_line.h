@@ -14,9 +14,9 @@ namespace korvantes::host {
 
 /// What the user asked for: options, then an order with its arguments.
 struct CommandLine {
-  std::optional<std::string> base;  ///< URL of the database; the sample database without it
-  std::optional<screen::Regional> regional;  ///< the machine's without it
-  std::optional<ado::Date> today;            ///< the machine's without it
+  std::optional<std::string> base;           ///< URL of the database; empty: the sample database
+  std::optional<screen::Regional> regional;  ///< empty: the machine's
+  std::optional<ado::Date> today;            ///< empty: the machine's
   bool desktop = false;                      ///< real windows, also for scripts
   /// Where reports, spreadsheets and pictures go if there is no display.
   std::filesystem::path output = "out";

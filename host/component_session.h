@@ -7,8 +7,8 @@
 
 namespace korvantes::host {
 
-/// The component working on a database. The module keeps its object permanently; the destructor
-/// takes the database away from it, so that the connection can close.
+/// The component working on a database. The module keeps its object forever, so the destructor
+/// detaches the database to let the connection close.
 class ComponentSession {
  public:
   explicit ComponentSession(const Database& database) : component_(KORVAN::Create()) {

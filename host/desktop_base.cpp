@@ -27,7 +27,8 @@ void DesktopBase::makeSample(const std::string& path) {
 }
 
 void DesktopBase::use(Database database) {
-  // The end of a session takes the database from the component: first the old one, then the new.
+  // A session that ends detaches the component's database, so the old one must end before the new
+  // one begins.
   session_.reset();
   database_ = std::move(database);
   session_.emplace(database_);

@@ -28,7 +28,7 @@ constexpr int kMargin = 20;
 constexpr int kWidth = 560;
 constexpr int kButtonMargin = 16;
 
-/// Makes a sentence with a capital letter and a full stop; the texts of failures have neither.
+/// Adds a capital letter and a full stop; the texts of failures have neither.
 std::string asSentence(std::string_view words) {
   QString text = toQt(onOneLine(words));
   if (!text.isEmpty()) text[0] = text[0].toUpper();
@@ -174,7 +174,7 @@ void DesktopWindow::askForSample() {
   if (const auto path = askForNewBaseFile(*this, base_.name())) makeSample(*path);
 }
 
-/// No exception may pass through Qt.
+/// Exceptions must not pass through Qt.
 void DesktopWindow::attempt(const std::function<void()>& work) {
   try {
     work();

@@ -14,7 +14,7 @@ bool isSet(const char* name) {
   return value != nullptr && *value != '\0';
 }
 
-/// Uses the library that Qt's module for X is linked with; that module comes with Qt.
+/// Uses the library that Qt's X plugin is linked with; the plugin comes with Qt.
 bool xServerAnswers() {
   const std::unique_ptr<void, int (*)(void*)> library(::dlopen("libxcb.so.1", RTLD_NOW), ::dlclose);
   if (library == nullptr) return false;

@@ -1,6 +1,6 @@
 // host: the sample host application of the component. It opens a database, creates the component,
-// hands the database to it, and serves its command line. It alone knows all other folders and puts
-// them together.
+// hands the database to it, and serves its command line. Only this folder knows all the others and
+// puts them together.
 #pragma once
 
 #include <iosfwd>

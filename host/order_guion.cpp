@@ -19,8 +19,8 @@ namespace {
 
 /// The time of day that a fixed clock shows.
 constexpr int kNoon = 12 * 60 * 60;
-/// The day on which the sample settlement is made, whatever the machine's clock says: the rates in
-/// force and the dates that are accepted depend on it.
+/// The day on which the sample settlement is made, regardless of the machine's clock: rates in
+/// force and accepted dates depend on it.
 constexpr ado::Date kSampleToday = {2026, 7, 1};
 
 std::unique_ptr<scripts::Stage> makeStage(bool withWindows) {
@@ -28,7 +28,7 @@ std::unique_ptr<scripts::Stage> makeStage(bool withWindows) {
   return std::make_unique<scripts::HeadlessDesktop>();
 }
 
-/// Throws Failure when lines of the script could not be done.
+/// Throws Failure if lines of the script failed.
 void play(scripts::Stage& stage, std::string_view script, const CommandLine& line,
           const Database& database, std::ostream& out) {
   screen::Desktop& desktop = stage.desktop();

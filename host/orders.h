@@ -20,7 +20,7 @@ void orderSql(const CommandLine& line, Streams streams);
 /// comision: the commission of a document, in the general form of the regional settings.
 void orderCommission(const CommandLine& line, Streams streams);
 
-/// guion: plays a script. A line of it that could not be done makes the order fail at the end.
+/// guion: plays a script. If a line fails, the order fails at the end.
 void orderScript(const CommandLine& line, Streams streams);
 
 /// No order and no display: plays the sample settlement on a temporary database, so that it can be

@@ -31,7 +31,7 @@ void runDesktop(const CommandLine& line) {
   desktop::QtDesktop desktop;
   if (line.regional) desktop.regional(*line.regional);
   offerDocumentsOnWindows(desktop);
-  // No screen may use the desktop once it is being destroyed.
+  // No screen may use the desktop once its destruction begins.
   struct Current {
     explicit Current(screen::Desktop& desktop) { screen::Desktop::makeCurrent(&desktop); }
     ~Current() { screen::Desktop::makeCurrent(nullptr); }
