@@ -20,7 +20,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kAgents = 10'000;
-/// Of the agents, so many have a picture, where there are pictures.
+/// The number of agents with a picture, if there are pictures.
 constexpr std::size_t kWithPicture = 100;
 
 /// A bmp file of about that size: a square of coloured dots, three bytes each.
@@ -74,7 +74,7 @@ screen::Control& control(screen::Form& form, const char* identity) {
   return *found;
 }
 
-/// Seconds a move, from the key until the fields are filled and, where there are windows, painted.
+/// Seconds a move, from the key until the fields are filled and, with windows, painted.
 double moveSeconds(scripts::Stage& stage, KORVAN& component, std::size_t moves) {
   double seconds = 0;
   stage.whileShown = [&](screen::Form& form) {

@@ -10,7 +10,7 @@
 
 namespace korvantes::bench {
 
-/// A database with empty tables in a folder of its own, which the destructor deletes.
+/// A database with empty tables in a temporary folder, which the destructor deletes.
 class BenchDatabase {
  public:
   BenchDatabase();

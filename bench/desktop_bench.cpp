@@ -21,8 +21,7 @@ screen::Control& control(screen::Form& form, const char* identity) {
   return *found;
 }
 
-/// Seconds from the click on the search button until the list is filled and, where there are
-/// windows, painted.
+/// Seconds from the click on the search button until the list is filled and, with windows, painted.
 double searchSeconds(scripts::Stage& stage, KORVAN& component, std::size_t notes) {
   double seconds = 0;
   stage.whileShown = [&](screen::Form& form) {

@@ -115,7 +115,7 @@ struct HandwrittenReport::Impl {
 HandwrittenReport::HandwrittenReport(const std::string& path) : impl_(std::make_unique<Impl>()) {
   impl_->check(sqlite3_open(path.c_str(), &impl_->db));
   impl_->check(sqlite3_exec(impl_->db, "PRAGMA cache_size=-16384", nullptr, nullptr, nullptr));
-  // The tables' texts bear this order, and the rows have to come in the same one.
+  // The tables' texts use this collation, and the rows must come in the same order.
   impl_->check(sqlite3_create_collation(impl_->db, "KV_TEXT", SQLITE_UTF8, nullptr, &compare));
   const std::string head = kHead;
   impl_->sum = impl_->prepare("SELECT SUM(Lca_Base) FROM Lca");

@@ -16,7 +16,7 @@ inline double memory(const std::string& name) {
   throw std::runtime_error(name);
 }
 
-/// From here on the peak counts anew.
+/// Resets the peak.
 inline void forgetPeak() {
   std::ofstream("/proc/self/clear_refs") << "5";
 }

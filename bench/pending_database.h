@@ -1,4 +1,4 @@
-// bench: figures for the work that a user waits for, beside hand-written C against sqlite3.
+// bench: times of what a user waits for, compared with hand-written C against sqlite3.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +15,7 @@ class PendingDatabase : public BenchDatabase {
 
   std::size_t notes() const { return notes_; }
 
-  /// Takes back what a save stored, so that the notes are pending again.
+  /// Undoes a save, so that the notes are pending again.
   void freeAllNotes();
 
  private:

@@ -34,7 +34,7 @@ class Printing {
   Printing(const Printing&) = delete;
   Printing& operator=(const Printing&) = delete;
 
-  /// Puts all notes into one settlement; gives the statement of its report.
+  /// Puts all notes into one settlement; returns the statement of its report.
   std::string settle() {
     ado::Connection& connection = *database_.connection();
     connection.Execute(

@@ -87,7 +87,7 @@ Figures searchByHand(Search search) {
   return {rows.size(), seconds, cpuSeconds, residentBytes() - before};
 }
 
-/// Runs a search, which must find `rows`, and tells seconds and bytes a row.
+/// Runs a search, which must find `rows`, and reports seconds and bytes a row.
 template <class Search>
 void measure(benchmark::State& state, std::size_t rows, Search search) {
   double bytes = 0, cpuSeconds = 0;

@@ -82,7 +82,7 @@ class User {
   std::size_t rows_ = 0;
 };
 
-/// One iteration is the whole list; the counter tells seconds a note, inverted from a rate.
+/// One iteration is the whole list; the counter shows seconds a note, as an inverted rate.
 void perNote(benchmark::State& state, std::size_t notes) {
   state.counters["per_note"] =
       benchmark::Counter(static_cast<double>(notes), benchmark::Counter::kIsIterationInvariantRate |
@@ -177,7 +177,7 @@ void CompilerCacheHit(benchmark::State& state) {
     benchmark::DoNotOptimize(compiler.compile(data::sentenciaComision(data::kAlbaran, ++note, 0)));
 }
 
-/// Building the statement's text alone, to be taken off the figure above.
+/// Building only the statement's text, to be subtracted from the figure above.
 void StatementText(benchmark::State& state) {
   std::int32_t note = 0;
   for ([[maybe_unused]] auto _ : state)
