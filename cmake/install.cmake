@@ -1,5 +1,5 @@
-# What a host of somebody else's needs: the shared libraries, the embedded engine, their headers, the
-# tables. It says find_package(korvantes) and links korvantes::korvantes, or korvantes::outside when
+# What a third-party host needs: the shared libraries, the embedded engine, their headers, the
+# tables. It calls find_package(korvantes) and links korvantes::korvantes, or korvantes::outside if
 # it loads the component with dlopen; korvantes::sqlite is the engine.
 include(CMakePackageConfigHelpers)
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/korvantes)

@@ -1,5 +1,5 @@
-# How our folders become targets. What is set for all of them here is set for this project's folders
-# alone: no warning and no sanitizer reaches a project that uses the libraries.
+# Turns our folders into targets. Settings here apply only to this project's folders: no warning or
+# sanitizer option reaches a project that uses the libraries.
 
 set(CMAKE_COMPILE_WARNING_AS_ERROR ${PROJECT_IS_TOP_LEVEL})
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
@@ -18,7 +18,7 @@ if(KORVANTES_SANITIZE)
   add_link_options(${KORVANTES_SANITIZERS})
 endif()
 
-# What our headers ask of whoever includes them.
+# What our headers require of whoever includes them.
 add_library(korvantes_headers INTERFACE)
 target_include_directories(
   korvantes_headers INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
@@ -33,9 +33,9 @@ function(korvantes_folder name)
   target_link_libraries(${name} PUBLIC korvantes_headers ${folder_LINKS})
 endfunction()
 
-# korvantes_shared(NAME OUTPUT file name EXPORTS linker map FOLDERS target... [LINKS target...])
-# A shared library made of folders. The linker map, a path from the project's root, says which
-# symbols others can see.
+# korvantes_shared(NAME OUTPUT file name EXPORTS linker map FOLDERS target... [LINKS target...]) A
+# shared library made of folders. The linker map, a path from the project's root, lists the exported
+# symbols.
 function(korvantes_shared name)
   cmake_parse_arguments(PARSE_ARGV 1 shared "" "OUTPUT;EXPORTS" "FOLDERS;LINKS")
   set(exports ${PROJECT_SOURCE_DIR}/${shared_EXPORTS})
