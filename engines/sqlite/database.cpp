@@ -178,7 +178,7 @@ void Statement::reset() {
 
 void Transaction::begin() {
   if (database_->inTransaction()) {
-    throw ado::Error(kTransactionOpen, "Ya hay una transacción abierta");
+    throw ado::Error(kTransactionOpen, "Hay otra operación sin terminar en la base de datos");
   }
   database_->requireInPlace("BEGIN");
   // Immediate: a second user waits here instead of in the middle of a save.
@@ -190,7 +190,7 @@ void Transaction::begin() {
 void Transaction::commit() {
   requireNotLost("COMMIT");
   if (!database_->inTransaction()) {
-    throw ado::Error(kNoTransaction, "No hay ninguna transacción abierta");
+    throw ado::Error(kNoTransaction, "No hay ninguna operación abierta en la base de datos");
   }
   database_->requireInPlace("COMMIT");
   database_->run("COMMIT");
@@ -203,7 +203,7 @@ void Transaction::rollback() {
     return;
   }
   if (!database_->inTransaction()) {
-    throw ado::Error(kNoTransaction, "No hay ninguna transacción abierta");
+    throw ado::Error(kNoTransaction, "No hay ninguna operación abierta en la base de datos");
   }
   try {
     database_->run("ROLLBACK");
@@ -230,7 +230,7 @@ void Transaction::requireWritable(std::string_view subject) {
 void Transaction::requireNotLost(std::string_view subject) const {
   if (!isLost()) return;
   throw ado::Error(ado::ErrorKind::TransactionLost, kTransactionLost,
-                   "La transacción ha sido anulada por un error anterior; no se ha guardado nada",
+                   "La operación se ha anulado por un error anterior; no se ha guardado nada",
                    subject);
 }
 

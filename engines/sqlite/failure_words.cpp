@@ -75,7 +75,8 @@ ado::Error brokenConstraint(int code, const std::string& words, std::string_view
     case SQLITE_CONSTRAINT_NOTNULL:
       if (!known) break;
       return {ErrorKind::Constraint, code,
-              "La columna " + columns.names + " de la tabla «" + columns.table + "» no admite Null",
+              "La columna " + columns.names + " de la tabla «" + columns.table +
+                  "» no puede quedar vacía",
               subject};
     default:
       break;

@@ -76,9 +76,9 @@ Words wordsOf(Problem problem) {
     case Problem::IdentityValue:
       return {544, "la columna «{word}» la numera la base de datos y no admite un valor"};
     case Problem::NullValue:
-      return {515, "la columna «{word}» no admite Null"};
+      return {515, "la columna «{word}» no puede quedar vacía"};
     case Problem::MissingValue:
-      return {515, "falta el valor de la columna «{word}», que no admite Null"};
+      return {515, "falta el valor de la columna «{word}», que no puede quedar vacía"};
     case Problem::TypesDiffer:
       return {402, "no se pueden combinar {detail} en «{word}»"};
     case Problem::WrongType:
@@ -96,13 +96,13 @@ Words wordsOf(Problem problem) {
     case Problem::NumberTooLarge:
       return {8115, "el número {word} no cabe en {detail}"};
     case Problem::NoNumber:
-      return {245, "Error de conversión al convertir una cadena de caracteres en número: «{word}»"};
+      return {245, "El texto no es un número: «{word}»"};
     case Problem::NoDate:
-      return {241, "Error de conversión al convertir una cadena de caracteres en fecha: «{word}»"};
+      return {241, "El texto no es una fecha: «{word}»"};
     case Problem::TextTooLong:
-      return {8152, "Los datos de cadena se truncarían en la columna «{word}»"};
+      return {8152, "El texto es demasiado largo para la columna «{word}»"};
     case Problem::Overflow:
-      return {8115, "Desbordamiento aritmético: el resultado no cabe en su tipo"};
+      return {8115, "El resultado de un cálculo es demasiado grande"};
     case Problem::DivisionByZero:
       return {8134, "División entre cero"};
     case Problem::TooManyRows:

@@ -26,7 +26,7 @@ std::string faltaTabla(const std::string& tabla) {
 
 std::string faltaCondicion(const std::string& condicion, const std::string& tabla) {
   if (esCondicion(condicion)) return {};
-  return "Falta la condición: la sentencia afectaría a toda la tabla «" + tabla + "»";
+  return "Operación rechazada: afectaría a todas las filas de la tabla «" + tabla + "»";
 }
 
 std::string faltanCampos(const ListaCampos& campos) {
@@ -74,7 +74,7 @@ bool BaseDatos::InsertaFila(std::string& sError, std::optional<long> /*nReservad
   sError = faltaTabla(Tabla);
   if (sError.empty()) sError = faltanCampos(Campos);
   if (sError.empty() && !ado::trimmed(Condicion).empty())
-    sError = "Una fila nueva se inserta sin condición WHERE";
+    sError = "Operación rechazada: al añadir una fila no se eligen filas existentes";
   if (!sError.empty()) return false;
 
   std::string nombres;

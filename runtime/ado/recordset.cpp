@@ -20,8 +20,8 @@ constexpr long kOpen = 3705;
 
 [[noreturn]] void noCurrentRow() {
   throw Error(kNoCurrentRow,
-              "No hay ningún registro actual: el conjunto está vacío o el cursor "
-              "está antes del primero o después del último");
+              "No hay ningún registro actual: la lista está vacía, o se ha pasado del primero o "
+              "del último");
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ std::size_t Fields::Count() const {
 void Fields::Append(const std::string& name, FieldType type, int size) {
   const auto& cursor = *owner_->cursor_;
   if (cursor.open || !cursor.rows->byHand) {
-    throw Error(kOpen, "No se pueden añadir campos a un conjunto de registros abierto");
+    throw Error(kOpen, "No se pueden añadir campos a una lista de registros abierta");
   }
   auto definitions = *cursor.rows->definitions;
   for (const auto& definition : definitions) {
@@ -82,7 +82,7 @@ void Field::Value(Variant value) {
   auto& cursor = *owner_->cursor_;
   cursor.requireOpen();
   if (!cursor.rows->byHand && !cursor.rows->writer) {
-    throw Error(kReadOnly, "El conjunto de registros es de solo lectura");
+    throw Error(kReadOnly, "La lista de registros es de solo lectura");
   }
   Variant fitting = convertedTo(definition(), std::move(value));
   if (cursor.edit == Edit::None) {
@@ -109,7 +109,7 @@ bool Recordset::Cursor::onRow() const {
 }
 
 void Recordset::Cursor::requireOpen() const {
-  if (!open) throw Error(kClosed, "El conjunto de registros está cerrado");
+  if (!open) throw Error(kClosed, "La lista de registros está cerrada");
 }
 
 void Recordset::Cursor::dropEdit() {
@@ -144,9 +144,9 @@ Recordset::Recordset(FieldDefinitions fields, std::vector<Variant> rows,
 }
 
 void Recordset::Open() {
-  if (cursor_->open) throw Error(kOpen, "El conjunto de registros ya está abierto");
+  if (cursor_->open) throw Error(kOpen, "La lista de registros ya está abierta");
   if (!cursor_->rows->byHand || Fields().Count() == 0) {
-    throw Error(kNoSuchField, "El conjunto de registros no tiene campos");
+    throw Error(kNoSuchField, "La lista de registros no tiene campos");
   }
   cursor_->open = true;
   cursor_->putOnFirst();

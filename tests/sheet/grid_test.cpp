@@ -115,7 +115,7 @@ TEST(Spreadsheet, RefusesOtherMembersAndArgumentsInWords) {
       {"ListToExcel", {grid}, "espera una lista"},
       {"GridToExcel", {grid, rows}, "espera un conjunto de registros"},
       {"GridToExcel", {rows, list}, "espera una cuadrícula"},
-      {"GridToExcel", {Argument(closed), grid}, "está cerrado"},
+      {"GridToExcel", {Argument(closed), grid}, "está cerrada"},
   };
   for (const auto& each : calls)
     EXPECT_THAT(support::failureOf([&] { world.sheets.call(each.method, each.arguments); }),

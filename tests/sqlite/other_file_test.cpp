@@ -140,7 +140,7 @@ TEST_F(OtherFileTest, FailuresHaveTheirKindAndOnlyOurWords) {
       {"insert into Lcd (Lcd_IdLca, Lcd_IdCav) values (2, 33)", ado::ErrorKind::Duplicate,
        "Ya existe en la tabla «Lcd» una fila con el mismo valor de «Lcd_IdCav»"},
       {"insert into Lcd (Lcd_IdLca) values (2)", ado::ErrorKind::Constraint,
-       "Línea 1, columna 13: falta el valor de la columna «Lcd_IdCav», que no admite Null."},
+       "Línea 1, columna 13: falta el valor de la columna «Lcd_IdCav», que no puede quedar vacía."},
       {"update Lca set Lca_Id = 1", ado::ErrorKind::Constraint, ""},
       {"update Age set AGE_CP = '123456789'", ado::ErrorKind::Overflow, ""},
       {"selec 1", ado::ErrorKind::Syntax, ""},

@@ -84,7 +84,7 @@ TEST_F(Cache, AValueThatDoesNotFitIsRefusedAlsoWhenTheStatementIsKnown) {
             "");
   EXPECT_EQ(refusalOf(compiler_,
                       "UPDATE Cav SET Cav_Serie = 'ABCDEFGHIJK', Cav_Dto1 = 1.5 WHERE Cav_Id = 1"),
-            "Línea 1, columna 28: Los datos de cadena se truncarían en la columna «Cav_Serie».");
+            "Línea 1, columna 28: El texto es demasiado largo para la columna «Cav_Serie».");
   EXPECT_EQ(
       refusalOf(compiler_, "UPDATE Cav SET Cav_Serie = 'A', Cav_Dto1 = 1000.0 WHERE Cav_Id = 1"),
       "Línea 1, columna 44: el número 1000.0 no cabe en decimal(5,2).");

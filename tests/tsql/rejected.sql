@@ -152,9 +152,9 @@ SELECT Cav_Id FROM Cav WHERE Cav_Id
 SELECT (Cav_Id = 1) FROM Cav
 => Línea 1, columna 16: no se esperaba «=».
 SELECT Cav_Id FROM Cav WHERE Cav_Id = 'doce'
-=> Línea 1, columna 39: Error de conversión al convertir una cadena de caracteres en número: «doce».
+=> Línea 1, columna 39: El texto no es un número: «doce».
 SELECT Fav_Id FROM Fav WHERE Fav_Fecha = '2026-02-30'
-=> Línea 1, columna 42: Error de conversión al convertir una cadena de caracteres en fecha: «2026-02-30».
+=> Línea 1, columna 42: El texto no es una fecha: «2026-02-30».
 SELECT Fav_Id FROM Fav WHERE Fav_Fecha = 5
 => Línea 1, columna 40: no se pueden combinar date y int en «=».
 SELECT Fav_Fecha + 1 FROM Fav
@@ -194,7 +194,7 @@ SELECT Cav_Id FROM Cav WHERE Cav_Id LIKE 5
 INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (1)
 => Línea 1, columna 47: hay 2 columnas y 1 valor.
 INSERT INTO Lcd (Lcd_IdLca) VALUES (1)
-=> Línea 1, columna 13: falta el valor de la columna «Lcd_IdCav», que no admite Null.
+=> Línea 1, columna 13: falta el valor de la columna «Lcd_IdCav», que no puede quedar vacía.
 INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) SELECT Cav_Id FROM Cav
 => Línea 1, columna 40: hay 2 columnas y 1 valor.
 INSERT INTO Lcd (Lcd_IdLca, Lcd_IdCav) VALUES (Lcd_IdCav, 2)
@@ -210,7 +210,7 @@ INSERT INTO Lca (Lca_IdAg, Lca_PorIva) VALUES (1, 999.995)
 INSERT INTO Lca (Lca_IdAg, Lca_Fecha) VALUES (1, 0)
 => Línea 1, columna 50: no se pueden combinar int y date en «0».
 INSERT INTO Age (AGE_ID, AGE_PRO) VALUES (1, '280')
-=> Línea 1, columna 46: Los datos de cadena se truncarían en la columna «AGE_PRO».
+=> Línea 1, columna 46: El texto es demasiado largo para la columna «AGE_PRO».
 INSERT INTO Age (AGE_ID, AGE_PRO) VALUES (1, 280)
 => Línea 1, columna 46: el número 280 no cabe en varchar(2).
 INSERT INTO Age (AGE_ID, AGE_IMG) VALUES (1, 'x')
@@ -218,7 +218,7 @@ INSERT INTO Age (AGE_ID, AGE_IMG) VALUES (1, 'x')
 UPDATE Lca SET Lca_Id = 5
 => Línea 1, columna 16: la columna «Lca_Id» la numera la base de datos y no admite un valor.
 UPDATE Lca SET Lca_IdAg = NULL
-=> Línea 1, columna 27: la columna «Lca_IdAg» no admite Null.
+=> Línea 1, columna 27: la columna «Lca_IdAg» no puede quedar vacía.
 
 -- Tables.
 CREATE TABLE T (A varchar(9000))

@@ -6,7 +6,7 @@
 -i / 2 => int -3
 i % 4 - -i => int 10
 (1 - i) % 4 => int -2
-k + 1 => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
+k + 1 => ! El resultado de un cálculo es demasiado grande.
 i % (i - 7) => ! División entre cero.
 n / 0 => int NULL
 2147483648 + 0 => decimal(11,0) 2147483648
@@ -15,8 +15,8 @@ ABS(-k) => int 2147483647
 -- Money: four places; a quotient is cut off, a product rounds.
 m * m => money 101.0025
 -m / 7 => money -1.4357
-m + big => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
-big * 10 / 10 => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
+m + big => ! El resultado de un cálculo es demasiado grande.
+big * 10 / 10 => ! El resultado de un cálculo es demasiado grande.
 ABS(r - m) => money 10.0451
 
 -- Decimals: scales add, a power of ten moves the point, other quotients are cut off.
@@ -39,8 +39,8 @@ ROUND(i, -1) => int 10
 ROUND(m, 9) => money 10.0500
 CAST(-12.9 AS int) => int -12
 CAST(CAST(12.5 AS money) AS int) => int 13
-CAST(3000000000 AS int) => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
-CAST(m AS decimal(3,2)) => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
+CAST(3000000000 AS int) => ! El resultado de un cálculo es demasiado grande.
+CAST(m AS decimal(3,2)) => ! El resultado de un cálculo es demasiado grande.
 CAST(m AS decimal(4,2)) => decimal(4,2) 10.05
 CAST(m AS bit) => bit True
 
@@ -52,10 +52,10 @@ CAST(r AS varchar) => varchar(30) 0.00
 CAST(e AS varchar(4)) => ! El número 7.500 no cabe en varchar(4).
 CAST('Ñandú' AS varchar(2)) + '|' + CAST('é' AS char(3)) + '|' => varchar(7) Ña|é  |
 t + NULL => varchar(40) NULL
-t + '/' + n => ! Error de conversión al convertir una cadena de caracteres en número: «Ñandú /».
-z + 1 => ! Error de conversión al convertir una cadena de caracteres en número: «12.5».
+t + '/' + n => ! El texto no es un número: «Ñandú /».
+z + 1 => ! El texto no es un número: «12.5».
 z + CAST(1 AS money) => money 13.5000
-CAST(t AS money) => ! Error de conversión al convertir una cadena de caracteres en número: «Ñandú ».
+CAST(t AS money) => ! El texto no es un número: «Ñandú ».
 CAST(' -3 ' AS int) => int -3
 'O''Hara' + N' ñ' => varchar(8) O'Hara ñ
 LEN(t) => int 5
@@ -68,7 +68,7 @@ CAST(f AS varchar(10)) => varchar(10) 2026-02-28
 CONVERT(varchar(10), f, 103) + '!' => varchar(11) 28/02/2026!
 CAST('1/3/2026 ' AS date) => date 01/03/2026
 CASE WHEN f >= '28/02/2026 ' AND f < '01/03/2026' THEN 1 END => int 1
-CASE WHEN CAST(t AS date) = f THEN 1 END => ! Error de conversión al convertir una cadena de caracteres en fecha: «Ñandú ».
+CASE WHEN CAST(t AS date) = f THEN 1 END => ! El texto no es una fecha: «Ñandú ».
 
 -- Null and choices.
 ISNULL(m * n, 0) => money 0.0000
@@ -99,7 +99,7 @@ CASE WHEN NOT (i = 1 OR i = 2) AND i = '7' AND i > -1 AND i !< 7 AND i != 8 THEN
 
 -- Aggregates.
 (SELECT SUM(x.i * V.d) FROM V x) => decimal(38,2) 87.50
-(SELECT SUM(x.big) FROM V x LEFT JOIN Dos ON 1 = 1) => ! Desbordamiento aritmético: el resultado no cabe en su tipo.
+(SELECT SUM(x.big) FROM V x LEFT JOIN Dos ON 1 = 1) => ! El resultado de un cálculo es demasiado grande.
 (SELECT SUM(m) FROM V x WHERE 1 = 0) => money NULL
 (SELECT AVG(x.i) + COUNT(n) FROM V x) => int 7
 (SELECT AVG(e) / COUNT(DISTINCT t) FROM V) => decimal(38,6) 7.500000

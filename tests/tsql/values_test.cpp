@@ -58,19 +58,19 @@ TEST_F(Values, WhatIsAssignedIsConvertedOrRefused) {
   const std::pair<const char*, const char*> cases[] = {
       {"i = m", "int 10"},
       {"i = d + 0.4", "int 12"},
-      {"i = k + 1.0", "! Desbordamiento aritmético: el resultado no cabe en su tipo."},
-      {"i = z", "! Error de conversión al convertir una cadena de caracteres en número: «12.5»."},
+      {"i = k + 1.0", "! El resultado de un cálculo es demasiado grande."},
+      {"i = z", "! El texto no es un número: «12.5»."},
       {"m = d * e / 100", "money 0.9375"},
-      {"d = m * 100", "! Desbordamiento aritmético: el resultado no cabe en su tipo."},
+      {"d = m * 100", "! El resultado de un cálculo es demasiado grande."},
       {"d = m / 3", "decimal(5,2) 3.35"},
       {"t = i", "varchar(20) 7"},
-      {"t = t + t + t + t", "! Los datos de cadena se truncarían en la columna «t»."},
+      {"t = t + t + t + t", "! El texto es demasiado largo para la columna «t»."},
       {"t = c + '            ' + c", "varchar(20) ab               ab "},
       {"c = i", "char(5) 7    "},
       {"c = t", "char(5) Ñandú"},
-      {"c = k", "! Los datos de cadena se truncarían en la columna «c»."},
+      {"c = k", "! El texto es demasiado largo para la columna «c»."},
       {"f = '1/12/2026'", "date 01/12/2026"},
-      {"f = t", "! Error de conversión al convertir una cadena de caracteres en fecha: «Ñandú »."},
+      {"f = t", "! El texto no es una fecha: «Ñandú »."},
       {"b = i - 7", "bit False"},
   };
   for (const auto& [change, expected] : cases) {
@@ -84,14 +84,15 @@ TEST_F(Values, WhatIsAssignedIsConvertedOrRefused) {
 
 TEST_F(Values, NullNeverReachesAColumnThatForbidsIt) {
   connection_.Execute("CREATE TABLE K (Id int PRIMARY KEY, A varchar(2) NOT NULL)");
-  EXPECT_EQ(failureOf("INSERT INTO K SELECT n, 'a' FROM V"), "La columna «Id» no admite Null.");
+  EXPECT_EQ(failureOf("INSERT INTO K SELECT n, 'a' FROM V"),
+            "La columna «Id» no puede quedar vacía.");
   EXPECT_EQ(failureOf("INSERT INTO K (Id, A) VALUES (1, (SELECT t FROM V WHERE i = 8))"),
-            "La columna «A» no admite Null.");
+            "La columna «A» no puede quedar vacía.");
   EXPECT_EQ(failureOf("INSERT INTO K (Id, A) VALUES (1, 'a'), (2, 'b')"), "");
   EXPECT_EQ(failureOf("INSERT INTO K SELECT i, c FROM V"), "");
   EXPECT_EQ(failureOf("INSERT INTO K SELECT i, '' + z FROM V WHERE LEN(z) = 1"), "");
   EXPECT_EQ(failureOf("INSERT INTO K SELECT k, CAST(i AS varchar(1)) FROM V"), "");
-  EXPECT_EQ(failureOf("UPDATE K SET A = NULL + 'x'"), "La columna «A» no admite Null.");
+  EXPECT_EQ(failureOf("UPDATE K SET A = NULL + 'x'"), "La columna «A» no puede quedar vacía.");
 }
 
 TEST_F(Values, GroupsDistinctAndOrderCompareTextsTheSameWay) {
