@@ -55,7 +55,7 @@ check() {
       if (from == "data") return within(target, "outside")
       if (from == "component") return within(target, "outside data")
       if (within(file, "settlement report agents")) {
-        if (target ~ /^component\/(KORVAN|mdoKORVANTES|search_form)\.h$/) return 1
+        if (target ~ /^component\/(KORVAN|appearance|mdoKORVANTES|search_form)\.h$/) return 1
         # A button of the report grid opens the entry screen.
         if (from == "report" && target == "settlement/frmNewLiquidAgentes.h") return 1
         return within(target, "outside data")
