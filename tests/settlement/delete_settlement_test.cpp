@@ -10,16 +10,11 @@ using screen::Answer;
 using support::Fault;
 using testing::ElementsAre;
 
-constexpr const char* kFirst =
-    "[308] Liquidación de comisiones a agentes | Desea eliminar la liquidación actual";
-constexpr const char* kSecond =
-    "[276] Liquidación de comisiones a agentes | Confirma que desea eliminar la liquidación actual";
-const std::string kDone = "[64] Liquidación de comisiones a agentes | Liquidación eliminada ";
-const std::string kFailed =
-    "[16] Liquidación de comisiones a agentes | Error eliminando liquidación: \r\n";
-constexpr const char* kOwnError = "Error definido por la aplicación o el objeto";
-constexpr const char* kGone =
-    "La liquidación 1 ya no existe: otro usuario la ha cambiado o eliminado.";
+const std::string kTitle = "] Liquidación de comisiones a agentes | ";
+const std::string kFirst = "[308" + kTitle + "Desea eliminar la liquidación actual";
+const std::string kSecond = "[276" + kTitle + "Confirma que desea eliminar la liquidación actual";
+const std::string kDone = "[64" + kTitle + "Liquidación eliminada ";
+const std::string kFailed = "[16" + kTitle + "Error eliminando liquidación: \r\n";
 
 /// Deletes the settlement. The screen closes whatever happens.
 void deleteWithTwoYes(World& world, Screen& screen) {
@@ -27,7 +22,6 @@ void deleteWithTwoYes(World& world, Screen& screen) {
   world.answers = {Answer::Yes, Answer::Yes};
   screen.click("cmdBorrar");
   EXPECT_FALSE(screen.form.loaded());
-  EXPECT_FALSE(world.connection->inTransaction());
 }
 
 TEST(SettlementDeletion, WhateverCallFailsAllOrNothingIsDeleted) {
@@ -36,18 +30,18 @@ TEST(SettlementDeletion, WhateverCallFailsAllOrNothingIsDeleted) {
     const auto others = world.stored();
     const int number = world.settle({1, 4});
     const auto before = world.stored();
-    const auto open = [&](const std::function<void(Screen&)>& user) { world.show(user, number); };
-    open([&](Screen& screen) {
+    world.open(number, [&](Screen& screen) {
       fault.during(*world.connection, [&] { deleteWithTwoYes(world, screen); });
     });
+    EXPECT_FALSE(world.connection->inTransaction());
     const bool ofService = fault.call() > 1 && fault.call() < 5;
-    EXPECT_THAT(
-        world.messages,
-        ElementsAre(kFirst, kSecond,
-                    !fault.met() ? kDone : kFailed + (ofService ? kOwnError : Fault::kWords)));
+    const std::string words =
+        ofService ? "Error definido por la aplicación o el objeto" : Fault::kWords;
+    EXPECT_THAT(world.messages,
+                ElementsAre(kFirst, kSecond, fault.met() ? kFailed + words : kDone));
     const bool deleted = !fault.met() || fault.afterwards("CommitTrans");
     EXPECT_EQ(world.stored(), deleted ? others : before);
-    if (!deleted) open([&](Screen& screen) { deleteWithTwoYes(world, screen); });
+    if (!deleted) world.open(number, [&](Screen& screen) { deleteWithTwoYes(world, screen); });
     EXPECT_EQ(world.stored(), others);
     if (!fault.met()) {
       EXPECT_THAT(fault.calls(),
@@ -62,43 +56,33 @@ TEST(SettlementDeletion, OfOneThatAnotherUserHasReplacedOrDeletedIsRefused) {
   for (bool replaced : {true, false}) {
     World world;
     const int number = world.settle({1});
-    world.show(
-        [&](Screen& screen) {
-          world.show(
-              [&](Screen& other) {
-                if (replaced)
-                  other.click("cmdGrabar");
-                else
-                  deleteWithTwoYes(world, other);
-              },
-              number);
-          const auto before = world.stored();
-          deleteWithTwoYes(world, screen);
-          EXPECT_EQ(world.stored(), before);
-        },
-        number);
-    EXPECT_THAT(world.messages, ElementsAre(kFirst, kSecond, kFailed + kGone));
-    EXPECT_EQ(world.sql("select * from Lcd").RecordCount(), replaced ? 1U : 0U);
+    world.open(number, [&](Screen& screen) {
+      world.open(number, [&](Screen& other) {
+        replaced ? other.click("cmdGrabar") : deleteWithTwoYes(world, other);
+      });
+      const auto before = world.stored();
+      deleteWithTwoYes(world, screen);
+      EXPECT_EQ(world.stored(), before);
+    });
+    EXPECT_EQ(world.messages.back(),
+              kFailed + "La liquidación 1 ya no existe: otro usuario la ha cambiado o eliminado.");
+    EXPECT_EQ(world.count("Lcd"), replaced ? 1U : 0U);
   }
 }
 
 TEST(SettlementDeletion, InsideATransactionOfAnotherIsRefusedAndWithoutNotesWorks) {
   World world;
   world.sql("INSERT INTO Lca (Lca_IdAg) VALUES (6)");
-  world.show(
-      [&](Screen& screen) {
-        world.connection->BeginTrans();
-        world.answers = {Answer::Yes, Answer::Yes};
-        screen.click("cmdBorrar");
-        EXPECT_FALSE(screen.form.loaded());
-        EXPECT_TRUE(world.connection->inTransaction()) << "not ours to undo";
-        EXPECT_THAT(world.messages, ElementsAre(kFirst, kSecond, testing::StartsWith(kFailed)));
-        world.connection->RollbackTrans();
-      },
-      1);
-  world.show([&](Screen& screen) { deleteWithTwoYes(world, screen); }, 1);
+  world.open(1, [&](Screen& screen) {
+    world.connection->BeginTrans();
+    deleteWithTwoYes(world, screen);
+    EXPECT_TRUE(world.connection->inTransaction()) << "not ours to undo";
+    EXPECT_THAT(world.messages.back(), testing::StartsWith(kFailed));
+    world.connection->RollbackTrans();
+  });
+  world.open(1, [&](Screen& screen) { deleteWithTwoYes(world, screen); });
   EXPECT_EQ(world.messages.back(), kDone);
-  EXPECT_EQ(world.sql("select * from Lca").RecordCount(), 0U);
+  EXPECT_EQ(world.count("Lca"), 0U);
 }
 
 }  // namespace

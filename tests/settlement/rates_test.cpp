@@ -1,27 +1,27 @@
 #include <gmock/gmock.h>
 
 #include "tests/settlement/settlement_world.h"
+#include "tests/support/rows.h"
 
 namespace korvantes::settlement {
 namespace {
 
 TEST(SettlementRates, AreThoseOfTheAgentsRegimeOnTheSettlementsDay) {
-  struct Case {
+  const struct {
     const char *agent, *day, *vat, *withholding;
-    int row;  ///< of the table of rates, as stored
+    std::vector<std::string> row;  ///< of the table of rates, as stored; none without a day
+  } cases[] = {
+      {"5", "", "21,00", "19,00", {}},
+      {"5", "01072026", "21,00", "19,00", {"2"}},
+      {"5", "30062026", "18,00", "15,00", {"1"}},
+      {"5", "31121994", "0", "0", {"1"}},
+      {"6", "24112026", "10,00", "0,00", {"4"}},  // no regime counts as the first
+      {"7", "24112026", "0", "0", {"1"}},         // a regime without rates
   };
-  const Case cases[] = {
-      {"5", "", "21,00", "19,00", 0},         {"5", "01072026", "21,00", "19,00", 2},
-      {"5", "30062026", "18,00", "15,00", 1}, {"5", "31121994", "0", "0", 1},
-      {"6", "24112026", "10,00", "0,00", 4},  // no regime counts as the first
-      {"7", "24112026", "0", "0", 1},         // a regime without rates
-  };
-  for (const Case& each : cases) {
+  for (const auto& each : cases) {
     SCOPED_TRACE(std::string(each.agent) + " on " + each.day);
     World world;
-    world.sqlAll(
-        std::vector<std::string>{"INSERT INTO Cav VALUES (6, 'A', 19, 'x', 0, 0, 1, 6, 2, Null), "
-                                 "(7, 'A', 20, 'x', 0, 0, 1, 7, 2, Null)"});
+    for (int agent : {6, 7}) world.addNote(agent, agent, "1");
     world.show([&](Screen& screen) {
       screen.search(each.agent, false, false);
       screen.type(2, each.day);
@@ -31,11 +31,7 @@ TEST(SettlementRates, AreThoseOfTheAgentsRegimeOnTheSettlementsDay) {
       screen.tick(0);
       screen.click("cmdGrabar");
     });
-    const ado::Recordset stored = world.sql("select Lca_IdTiva from Lca");
-    ASSERT_EQ(stored.RecordCount(), each.row == 0 ? 0U : 1U) << "without a day nothing is saved";
-    if (each.row != 0) {
-      EXPECT_EQ(stored.cell(0, 0).asLong(), each.row);
-    }
+    EXPECT_EQ(support::rowsOf(world.sql("select Lca_IdTiva from Lca")), each.row);
   }
 }
 

@@ -89,6 +89,14 @@ void World::show(const std::function<void(Screen&)>& user, int nLiqui) {
   });
 }
 
+void World::addNote(int note, int agent, const std::string& amount) {
+  const std::string id = std::to_string(note);
+  sql("INSERT INTO Cav VALUES (" + id + ", 'Z', 1, 'x', 0, 0, 1, " + std::to_string(agent) +
+      ", 2, Null)");
+  sql("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) VALUES (" + id + ", " + id +
+      ", " + amount + ", 100)");
+}
+
 std::vector<std::string> World::stored() {
   std::vector<std::string> result;
   for (const char* table : kTables)

@@ -38,6 +38,9 @@ class World : public support::ScreenWorld {
 
   /// Opens the screen on a settlement, lets the user play, closes it.
   void show(const std::function<void(Screen&)>& user, int nLiqui = 0);
+  void open(int settlement, const std::function<void(Screen&)>& user) { show(user, settlement); }
+  /// Adds a free note with one line that earns its whole amount.
+  void addNote(int note, int agent, const std::string& amount);
   /// Every row of every table that a settlement touches.
   std::vector<std::string> stored();
   /// Saves the notes as a settlement of agent 5, through the screen, and returns its number.

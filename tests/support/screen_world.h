@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "component/KORVAN.h"
-#include "scripts/headless_desktop.h"
 #include "scripts/key_names.h"
+#include "tests/support/current_desktop.h"
 #include "tests/support/faulty_connection.h"
 #include "tests/support/temporary_database.h"
 
@@ -54,21 +54,12 @@ struct OpenScreen {
   }
 };
 
-/// The stops of the Tab key, from the first one until they repeat.
-std::vector<std::string> tabStops(screen::Form& form);
-
-/// The controls that share a tab index or extend beyond their frame or form; empty in a good
-/// layout.
-std::vector<std::string> misplaced(const screen::Form& form);
-
-/// An empty database, the component on it, and a desktop with Spanish settings at noon of
-/// 24/11/2026.
+/// An empty database, the component on it, and a desktop at noon of 24/11/2026.
 class ScreenWorld {
   TemporaryDatabase base_;
 
  public:
   ScreenWorld();
-  ~ScreenWorld();
   ScreenWorld(const ScreenWorld&) = delete;
   ScreenWorld& operator=(const ScreenWorld&) = delete;
 
@@ -82,11 +73,14 @@ class ScreenWorld {
     for (const auto& statement : statements) sql(statement);
     base_.connection()->CommitTrans();
   }
+  std::size_t count(const std::string& table) {
+    return sql("select * from " + table).RecordCount();
+  }
   std::string path() const { return base_.path(); }
   /// The row that the user chooses in list dialogs from now on, from 0.
   void chooseFromLists(std::size_t row);
 
-  scripts::HeadlessDesktop desktop;
+  CurrentDesktop desktop;
   std::shared_ptr<FaultyConnection> connection;
   /// Message boxes since the last clear: "[16] title | text".
   std::vector<std::string> messages;
@@ -97,7 +91,6 @@ class ScreenWorld {
 
  private:
   std::shared_ptr<KORVAN> component_;
-  screen::Desktop* former_;
   /// The users of the open screens, topmost last.
   std::list<std::function<void()>> users_;
 };

@@ -34,7 +34,7 @@ void addEveryMixture(World& world) {
   world.sqlAll(rows);
 }
 
-TEST(ReceiptFilter, EveryMixtureOfStatesUnderAllFourFilters) {
+TEST(SettlementSearch, FindsEveryMixtureOfReceiptsUnderAllFourFilters) {
   World world;
   addEveryMixture(world);
   struct Case {
@@ -61,6 +61,25 @@ TEST(ReceiptFilter, EveryMixtureOfStatesUnderAllFourFilters) {
       EXPECT_EQ(notes, expected) << each.collected << each.pending;
     });
   }
+}
+
+TEST(SettlementSearch, DuringAnotherListsNoNoteTwice) {
+  World world;
+  world.show([&](Screen& screen) {
+    screen.search("5", false, false);
+    const auto listed = screen.contents();
+    screen.click("cmdCancelar");
+    screen.go("cmbBuscarFacturas");
+    // A second Enter on the button, while the first search lets pending events run.
+    world.desktop.sendKeys("\r");
+    int searches = 0;
+    world.connection->onCall = [&](std::string_view call) {
+      searches += call.starts_with("SELECT Cav");
+    };
+    screen.user().click(screen.control("cmbBuscarFacturas"));
+    EXPECT_EQ(searches, 2);
+    EXPECT_EQ(screen.contents(), listed);
+  });
 }
 
 }  // namespace
