@@ -89,7 +89,6 @@ TEST(AgentsTwoUsers, TheSecondOfTwoWhoAddAtOnceGetsANumberOfItsOwnAtTheNextClick
     EXPECT_EQ(screen.contents(), entered);
     world.connection->onCall = nullptr;
     world.sql(kOtherAgent);
-
     screen.click("cmdSalvar");
     EXPECT_THAT(world.stored().back(), StartsWith("10|Mío|"));
     EXPECT_EQ(screen.form.nIdAgente, 10);

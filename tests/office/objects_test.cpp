@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "runtime/ado/error.h"
-#include "scripts/headless_desktop.h"
+#include "tests/support/current_desktop.h"
 
 namespace korvantes::office {
 namespace {
@@ -17,14 +17,8 @@ struct Numbered : Object {
   int number;
 };
 
-struct CreateObjectTest : testing::Test {
-  CreateObjectTest() : former(screen::Desktop::makeCurrent(&desktop)) {}
-  ~CreateObjectTest() override { screen::Desktop::makeCurrent(former); }
-  scripts::HeadlessDesktop desktop;
-  screen::Desktop* former;
-};
-
-TEST_F(CreateObjectTest, FindsTheLatestRegistrationWithoutRegardToCase) {
+TEST(CreateObject, FindsTheLatestRegistrationWithoutRegardToCase) {
+  support::CurrentDesktop desktop;
   objectsOf(desktop).add("BELTRIS.bSheets", [] { return std::make_unique<Numbered>(1); });
   objectsOf(desktop).add("marzenes.MZPrint", [] { return std::make_unique<Numbered>(2); });
   EXPECT_EQ(CreateObject("BELTRIS.BSHEETS")->call("n", {}), ado::Variant(1));
@@ -32,7 +26,8 @@ TEST_F(CreateObjectTest, FindsTheLatestRegistrationWithoutRegardToCase) {
   EXPECT_EQ(CreateObject("marzenes.MZPrint")->call("n", {}), ado::Variant(3));
 }
 
-TEST_F(CreateObjectTest, SaysWhichComponentIsMissing) {
+TEST(CreateObject, SaysWhichComponentIsMissing) {
+  support::CurrentDesktop desktop;
   objectsOf(desktop).add("vacio", [] { return std::unique_ptr<Object>(); });
   for (const auto& [name, words] : {std::pair{"marzenes.MZPrint", "No hay ningún componente"},
                                     std::pair{"vacio", "No se ha podido crear"}}) {

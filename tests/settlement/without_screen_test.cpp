@@ -38,7 +38,7 @@ void settleAll(plindor::BaseDatos& service, std::int32_t replaces) {
 }
 
 TEST(SettlementWithoutAScreen, IsStoredReplacedAndDeletedAsTheScreenDoesIt) {
-  World byUser, byProgram;
+  World byProgram, byUser;  // screens work for the latest
   plindor::BaseDatos service(byProgram.connection);
   byUser.settle({1, 2, 3, 4});
   settleAll(service, 0);

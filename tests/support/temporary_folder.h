@@ -6,9 +6,9 @@ namespace korvantes::support {
 
 /// A folder of its own for one test. In memory where the system offers it: every commit waits for
 /// the disk.
-class TemporaryFolder : public ado::TemporaryFolder {
- public:
-  TemporaryFolder();
+struct TemporaryFolder : ado::TemporaryFolder {
+  TemporaryFolder()
+      : ado::TemporaryFolder(std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "") {}
 };
 
 }  // namespace korvantes::support
