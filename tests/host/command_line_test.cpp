@@ -1,20 +1,22 @@
 #include "host/command_line.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "scripts/failure.h"
+#include "scripts/printed_values.h"
 #include "scripts/whole_number.h"
 
 namespace korvantes::host {
 namespace {
 
-std::string failureOf(const std::vector<std::string>& arguments) {
+/// What a call gives, or the words of its failure.
+std::string outcomeOf(const std::function<std::string()>& call) {
   try {
-    readCommandLine(arguments);
+    return call();
   } catch (const Failure& failure) {
     return failure.what();
   }
-  return "(ninguno)";
 }
 
 TEST(CommandLine, ReadsOptionsOrderAndArguments) {
@@ -27,31 +29,27 @@ TEST(CommandLine, ReadsOptionsOrderAndArguments) {
   EXPECT_EQ(line.output, "/tmp/x");
   EXPECT_EQ(line.order, "comision");
   EXPECT_EQ(line.arguments, (std::vector<std::string>{"3", "-1", "0"}));
-
   const CommandLine empty = readCommandLine({});
-  EXPECT_TRUE(empty.order.empty());
-  EXPECT_FALSE(empty.base || empty.today || empty.regional);
-
+  EXPECT_FALSE(empty.base || empty.today || empty.regional || !empty.order.empty());
   EXPECT_EQ(readCommandLine({"sql", "-"}).arguments, std::vector<std::string>{"-"});
 }
 
 TEST(CommandLine, RefusesWhatItDoesNotKnow) {
-  EXPECT_EQ(failureOf({"--bas", "x"}), "no se conoce la opción «--bas»; véase --ayuda");
-  EXPECT_EQ(failureOf({"--base"}), "--base: falta el valor");
-  EXPECT_EQ(failureOf({"--salida", "", "crear"}), "--salida: falta la carpeta");
-  for (const std::string date : {"31/02/2026", "2026-02-01"})
-    EXPECT_EQ(failureOf({"--hoy", date}), "--hoy: «" + date + "» no es una fecha dd/mm/aaaa");
-  EXPECT_EQ(failureOf({"--regional", "xx-YY"}),
-            "--regional: no se conocen los ajustes regionales «xx-YY»");
+  const std::pair<std::vector<std::string>, const char*> cases[] = {
+      {{"--bas", "x"}, "no se conoce la opción «--bas»; véase --ayuda"},
+      {{"--base"}, "--base: falta el valor"},
+      {{"--salida", "", "crear"}, "--salida: falta la carpeta"},
+      {{"--hoy", "31/02/2026"}, "--hoy: «31/02/2026» no es una fecha dd/mm/aaaa"},
+      {{"--hoy", "2026-02-01"}, "--hoy: «2026-02-01» no es una fecha dd/mm/aaaa"},
+      {{"--regional", "xx-YY"}, "--regional: no se conocen los ajustes regionales «xx-YY»"}};
+  for (const auto& [arguments, words] : cases)
+    EXPECT_EQ(outcomeOf([&] { return readCommandLine(arguments).order; }), words);
 }
 
 TEST(CommandLine, ReadsWholeNumbersWithinTheirLimits) {
-  const auto read = [](const char* text) -> std::string {
-    try {
-      return std::to_string(scripts::readWholeNumber("ID", text, -32768, 32767));
-    } catch (const Failure& failure) {
-      return failure.what();
-    }
+  const auto read = [](const char* text) {
+    return outcomeOf(
+        [&] { return std::to_string(scripts::readWholeNumber("ID", text, -32768, 32767)); });
   };
   EXPECT_EQ(read("-32768") + read("007"), "-327687");
   for (const char* text : {"", " 1", "1 ", "1.0", "1,5", "0x10", "+1", "--1", "1e3", "cinco"})
@@ -64,6 +62,21 @@ TEST(FailureWords, StandOnOneLine) {
   EXPECT_EQ(onOneLine("Error registrando liquidacion:\r\nla base\testá ocupada\n"),
             "Error registrando liquidacion: la base está ocupada");
   EXPECT_EQ(onOneLine("\n\x1B[31mrojo\x7F"), "[31mrojo");
+}
+
+TEST(PrintedValues, EachKindHasOneForm) {
+  using ado::Decimal;
+  using ado::Variant;
+  std::string printed;
+  for (const Variant& value :
+       {Variant(), Variant(true), Variant(false), Variant(INT64_MIN), Variant(Decimal::money(-5)),
+        Variant(Decimal(2100, 2)), Variant(Decimal(3, 0)), Variant(1.5), Variant(" Peña, S.L. "),
+        Variant(ado::Date{2026, 2, 8}), Variant("a\tb\nc\r\nd\\te"), Variant(ado::Bytes{}),
+        Variant(ado::Bytes{std::byte{0x00}, std::byte{0x0F}, std::byte{0xAB}})})
+    printed += scripts::printedValue(value) + "|";
+  EXPECT_EQ(printed,
+            "NULL|1|0|-9223372036854775808|-0.0005|21.00|3|1.5| Peña, S.L. |08/02/2026|"
+            "a\\tb\\nc\\r\\nd\\\\te|0x|0x000FAB|");
 }
 
 }  // namespace
