@@ -5,6 +5,10 @@
 #include "desktop/keys.h"
 #include "tests/desktop/on_windows.h"
 
+std::unique_ptr<korvantes::scripts::Stage> korvantes::screen::makeStage() {
+  return std::make_unique<scripts::WindowDesktop>();
+}
+
 namespace korvantes::desktop {
 
 namespace {
