@@ -1,4 +1,5 @@
 // What the model does without a user, and what its face hears.
+#include <sstream>
 #include <stdexcept>
 
 #include "scripts/headless_desktop.h"
@@ -11,18 +12,11 @@ std::unique_ptr<korvantes::scripts::Stage> korvantes::screen::makeStage() {
 namespace korvantes::screen {
 namespace {
 
-TEST(Controls, AreFoundByTheirIdentityAndArraysMayHaveGaps) {
-  SampleForm form;
-  form.text.add(7);
-  EXPECT_TRUE(form.text.contains(7));
-  EXPECT_THROW(form.text(3), std::out_of_range);
-  EXPECT_THROW(form.text.add(7), std::logic_error);
-  EXPECT_EQ(form.findControl("T(7)"), &form.text(7));
-  EXPECT_EQ(form.findControl("t"), nullptr);
-}
-
 TEST(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
   SampleForm form;
+  form.text.add(7);  // arrays may have gaps
+  EXPECT_THROW(form.text(3), std::out_of_range);
+  EXPECT_EQ(form.findControl("T(7)"), &form.text(7));
   ComboBox& combo = form.fixedList;
   form.text(0).Text = "x";
   form.text(0).Text = "x";
@@ -31,17 +25,15 @@ TEST(Controls, RaiseEventsInsideTheProgramsOwnAssignments) {
   form.second.Value = true;
   EXPECT_FALSE(form.first.Value());
   combo.ListIndex = 1;
-  EXPECT_EQ(combo.Text(), "España");
   EXPECT_THROW(combo.ListIndex = 9, std::out_of_range);
   EXPECT_THROW(combo.Text = "Francia", std::invalid_argument);
-  EXPECT_EQ(combo.ListIndex(), 1);
+  EXPECT_EQ(combo.Text(), "España");
   combo.Text = "Alemania";
   EXPECT_EQ(combo.ListIndex(), 0);
   EXPECT_EQ(form.taken(),
             "t(0) = x, check Click, first Click, second Click, fixed Click, fixed Click");
   combo.Clear();
-  EXPECT_EQ(combo.Text() + std::to_string(combo.ListIndex() + combo.ListCount()), "-1");
-  EXPECT_EQ(form.taken(), "");
+  EXPECT_EQ(combo.Text() + std::to_string(combo.ListIndex()) + form.taken(), "-1");
 }
 
 TEST(TabOrder, RunsThroughTheWholeFormAndSkipsWhatCannotTakeTheFocus) {
@@ -61,11 +53,9 @@ TEST(TabOrder, RunsThroughTheWholeFormAndSkipsWhatCannotTakeTheFocus) {
   EXPECT_EQ(order(true), "grid list leave open fixed second first check t(2) t(1) t(0) save ");
   form.inner.Visible = false;
   form.leave.TabStop = false;
-  form.openList.Visible = false;
-  EXPECT_EQ(order(), "save t(0) t(1) t(2) fixed list grid ");
-  EXPECT_EQ(form.nextTabStop(&form.openList), &form.list) << "from one that is no stop itself";
   form.box.Enabled = false;
-  EXPECT_EQ(order(), "save fixed list grid ");
+  EXPECT_EQ(order(), "save fixed open list grid ");
+  EXPECT_EQ(form.nextTabStop(&form.leave), &form.list) << "from one that is no stop itself";
   EXPECT_TRUE(form.text(0).shown() && !form.text(0).usable());
   form.Enabled = false;
   EXPECT_EQ(form.nextTabStop(nullptr), nullptr);
@@ -90,50 +80,39 @@ TEST(Faces, HearOfRealChangesAlone) {
   form.Caption = "Muestra";
   form.Caption = "Otra";
   form.save.Enabled = true;
-  form.save.Enabled = false;
   form.fixedList.AddItem("x");
   ado::Recordset rows = form.grid.DataSource();
   scripts::HeadlessDesktop desktop;
   Desktop::makeCurrent(&desktop);
+  form.leave.Click = [&] { rows.MoveLast(); };
   desktop.whileShown = [&](Form&) {
     face.heard += "| ";
-    form.leave.Click = [&] { rows.MoveLast(); };
     desktop.user().click(form.leave);
     form.Unload();
   };
   form.Show();
-  EXPECT_EQ(
-      face.heard,
-      "form.Caption save.Enabled fixed.ListCount fixed rows active | active grid rows unloaded ");
+  EXPECT_EQ(face.heard,
+            "form.Caption fixed.ListCount fixed rows active | active grid rows unloaded ");
 }
 
 TEST(HeadlessDesktop, TakesDefaultsWhereNobodyAnswers) {
   scripts::HeadlessDesktop desktop;
-  Desktop::makeCurrent(&desktop);
-  EXPECT_EQ(MsgBox("¿Seguro?", style::YesNo), Answer::Yes);
-  EXPECT_EQ(MsgBox("¿Seguro?", style::YesNo + style::DefaultSecond), Answer::No);
-  EXPECT_EQ(MsgBox("Hecho", style::Information), Answer::Ok);
+  EXPECT_EQ(desktop.messageBox({"¿Seguro?", style::YesNo, ""}), Answer::Yes);
+  EXPECT_EQ(desktop.messageBox({"", style::YesNo + style::DefaultSecond, ""}), Answer::No);
+  EXPECT_EQ(desktop.messageBox({"Hecho", style::Information, ""}), Answer::Ok);
   EXPECT_FALSE(desktop.chooseFromList({}) || desktop.chooseFile({}));
   desktop.onList = [](const ListDialog&) { return std::optional<std::size_t>(2); };
   EXPECT_THROW(desktop.chooseFromList({}), std::out_of_range);
-  Desktop::makeCurrent(nullptr);
-  EXPECT_THROW(MsgBox("x"), std::logic_error);
 }
 
 TEST(KeyNames, AreThoseThatScriptsUse) {
-  const auto codes = [](std::initializer_list<const char*> names) {
-    std::string all;
-    for (const char* name : names) {
-      const Key key = scripts::keyNamed(name).value_or(Key{});
-      all += std::to_string(key.code) + "/" + std::to_string(key.shift) + "/" +
-             std::to_string(std::uint32_t{key.character}) + " ";
-    }
-    return all;
-  };
-  EXPECT_EQ(codes({"Enter", "Mayús+Tab", "ESC", "F12", "Espacio", "AvPág", "Control+Mayús+Fin"}),
-            "13/0/0 9/1/0 27/0/0 123/0/0 32/0/32 34/0/0 35/3/0 ");
-  EXPECT_EQ(codes({"Alt+b", "a", "A", "ñ", ",", "+", "Control++"}),
-            "66/4/0 65/0/97 65/1/65 209/0/241 188/0/44 231/0/43 231/2/0 ");
+  std::ostringstream codes;
+  for (const char* name : {"ESC", "Espacio", "a", "A", "ñ", ",", "+", "Control++", "Mayús+Tab"}) {
+    const Key key = scripts::keyNamed(name).value_or(Key{});
+    codes << key.code << "/" << key.shift << "/" << std::uint32_t{key.character} << " ";
+  }
+  EXPECT_EQ(codes.str(),
+            "27/0/0 32/0/32 65/0/97 65/1/65 209/0/241 188/0/44 231/0/43 231/2/0 9/1/0 ");
   for (const char* name : {"", "F0", "F13", "F1x", "Entrar", "Foo+A", "Alt+", "ab"})
     EXPECT_FALSE(scripts::keyNamed(name)) << name;
 }

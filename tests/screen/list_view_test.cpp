@@ -2,7 +2,6 @@
 
 #include <chrono>
 
-#include "runtime/screen/conversions.h"
 #include "tests/screen/on_stage.h"
 
 namespace korvantes::screen {
@@ -43,17 +42,13 @@ TEST_F(ListViews, SortByTheTextOfAColumnAndKeepEqualRowsInOrder) {
 TEST_F(ListViews, TakeTicksAndClicksOnHeadings) {
   list.Sorted = true;
   play([&] {
-    list.Checked(0, true);
-    EXPECT_EQ(form.taken(), "") << "of the program";
-    user.tick(list, 1, true);
-    EXPECT_EQ(form.taken(), "-t(0), +list, list á on");
-    user.tick(list, 1, true);  // is ticked already
-    user.tick(list, 6, true);  // there is none
+    list.Checked(0, true);  // of the program
+    for (const std::size_t row : {1U, 1U, 6U}) user.tick(list, row, true);
     list.Enabled = false;
     user.tick(list, 0, false);
-    EXPECT_TRUE(list.item(0).Checked && list.item(1).Checked);
     list.Enabled = true;
-    EXPECT_EQ(form.taken(), "");
+    EXPECT_TRUE(list.item(0).Checked && list.item(1).Checked);
+    EXPECT_EQ(form.taken(), "-t(0), +list, list á on");
     list.ColumnClick = [&](int column) { list.SortKey = column - 1; };
     for (const int column : {2, 0, 3}) user.clickColumn(list, column);
     EXPECT_EQ(shown(), "b1 á2 B3 ñ4 a5 n6 ");
@@ -66,16 +61,12 @@ TEST_F(ListViews, TakeTicksAndClicksOnHeadings) {
 
 TEST_F(ListViews, LikeGridsHaveOneCurrentRow) {
   ado::Recordset rows = form.grid.DataSource();
-  form.grid.Columns(0).NumberFormat = "#,##0.00";
-  EXPECT_EQ(form.grid.cellText(1, 0, currentRegional()), "2,00");
   play([&] {
-    user.selectRow(form.grid, 2);
-    user.selectRow(form.grid, 60);  // there is none
+    for (const std::size_t row : {2U, 60U}) user.selectRow(form.grid, row);
     EXPECT_EQ(rows.position(), 2U);
     rows.MoveFirst();
     EXPECT_EQ(form.grid.currentRow(), 0U);
-    user.pressCellButton(form.grid, 1);  // has none
-    user.pressCellButton(form.grid, 2);
+    for (const int column : {1, 2}) user.pressCellButton(form.grid, column);
     rows.MoveLast();
     rows.MoveNext();
     user.pressCellButton(form.grid, 2);
@@ -86,19 +77,17 @@ TEST_F(ListViews, LikeGridsHaveOneCurrentRow) {
 }
 
 TEST_F(ListViews, OfAHundredThousandRowsSortAndTickAtOnce) {
+  list.Clear();
+  list.Sorted = true;
+  const auto start = std::chrono::steady_clock::now();
   play([&] {
-    const auto start = std::chrono::steady_clock::now();
-    list.Clear();
-    list.Sorted = true;
     for (int i = 0; i < 100000; ++i) list.Add(std::to_string(i * 7919 % 100000 + 100000));
     for (std::size_t row = 0; row < list.Count(); ++row) list.Checked(row, true);
     user.tick(list, 99999, false);
-    DoEvents();
-    EXPECT_EQ(list.item(99999).Text, "199999");
-    EXPECT_FALSE(list.item(99999).Checked);
-    // Generous: far above what it takes, far below a sort for each row or a widget for each cell.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    EXPECT_TRUE(list.item(99999).Text == "199999" && !list.item(99999).Checked);
   });
+  // Generous: far above what it takes, far below a sort for each row or a widget for each cell.
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 }  // namespace
