@@ -3,13 +3,13 @@
 #include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
 #include <fstream>
 
 #include "desktop/look.h"
 #include "desktop/print_preview.h"
 #include "desktop/save_dialog.h"
+#include "runtime/ado/temporary_folder.h"
 #include "tests/desktop/on_windows.h"
 
 namespace korvantes::desktop {
@@ -20,6 +20,7 @@ using testing::HasSubstr;
 namespace {
 
 namespace fs = std::filesystem;
+using screen::Answer;
 
 /// A user in front of documents, who answers each message box with Yes or Aceptar.
 class Documents : public OnWindows {
@@ -27,7 +28,7 @@ class Documents : public OnWindows {
   Documents() {
     stage.onMessage = [this](const screen::MessageBox& box) {
       messages.push_back(box.text);
-      return scripts::Reply(box.yesNo() ? reply_ : screen::Answer::Ok, byEnter_);
+      return scripts::Reply(box.yesNo() ? reply_ : Answer::Ok, byEnter_);
     };
   }
 
@@ -57,23 +58,21 @@ class Documents : public OnWindows {
       auto& dialog = openWindow<QFileDialog>();
       suggested_ = fromQt(dialog.selectedFiles().value(0));
       if (name.isEmpty()) return dialog.reject();
-      dialog.setDirectory(folder_.path());
+      dialog.setDirectory(toQt(folder_.path().string()));
       dialog.selectFile(name);
       pressOn(dialog, "Enter");
       if (dialog.isVisible()) dialog.reject();
     });
   }
 
-  static QPushButton& button(QWidget& window, const char* caption) {
+  static void press(const QWidget& window, const char* caption) {
     for (QPushButton* each : window.findChildren<QPushButton*>())
-      if (each->text() == QString::fromUtf8(caption)) return *each;
-    throw std::logic_error("no such button");
+      if (each->text() == caption) each->click();
   }
-  fs::path path(const char* name) const { return fs::path(fromQt(folder_.path())) / name; }
 
-  QTemporaryDir folder_;
+  ado::TemporaryFolder folder_;
   bool byEnter_ = false;
-  screen::Answer reply_ = screen::Answer::Yes;
+  Answer reply_ = Answer::Yes;
   fs::path suggested_;
 };
 
@@ -91,7 +90,7 @@ TEST_F(Documents, PreviewTurnsPagesSavesAndStaysWhenThatFails) {
     EXPECT_EQ(pages.currentPage(), 30);
     const auto save = [&](const char* name) {
       whenAskedToSave(name);
-      button(window, "&Guardar como PDF…").click();
+      press(window, "&Guardar como PDF…");
     };
     save("");
     EXPECT_EQ(suggested_.filename(), "Liquidación 13.pdf");
@@ -99,16 +98,16 @@ TEST_F(Documents, PreviewTurnsPagesSavesAndStaysWhenThatFails) {
     EXPECT_THAT(messages, ElementsAre("No queda sitio."));
     EXPECT_TRUE(window.isVisible());
     save("bien");
-    EXPECT_TRUE(fs::exists(path("bien.pdf")));
+    EXPECT_TRUE(fs::exists(folder_.file("bien.pdf")));
     save("");
-    EXPECT_EQ(suggested_, path("Liquidación 13.pdf")) << "the folder used last";
+    EXPECT_EQ(suggested_, folder_.file("Liquidación 13.pdf")) << "the folder used last";
   });
 }
 
 TEST_F(Documents, EnterOnAMessageAboveThePreviewIsNoKeyOfTheForm) {
   byEnter_ = true;
   play([&] {
-    preview([&](PrintPreview& window) { button(window, "Im&primir…").click(); });
+    preview([&](PrintPreview& window) { press(window, "Im&primir…"); });
     user.settle();
     EXPECT_EQ(form.taken(), "");
   });
@@ -119,12 +118,12 @@ TEST_F(Documents, EnterOnAMessageAboveThePreviewIsNoKeyOfTheForm) {
 }
 
 TEST_F(Documents, AFileIsReplacedOnlyWithConsent) {
-  std::ofstream(path("hoja.xlsx")) << "x";
-  for (const auto reply : {screen::Answer::No, screen::Answer::Yes}) {
+  std::ofstream(folder_.file("hoja.xlsx")) << "x";
+  for (const auto reply : {Answer::No, Answer::Yes}) {
     reply_ = reply;
     whenAskedToSave("hoja");
     const auto file = desktop.askWhereToSave({"Guardar", "Libros|*.xlsx", "xlsx", "hoja.xlsx"});
-    EXPECT_EQ(file.value_or(""), reply == screen::Answer::Yes ? path("hoja.xlsx") : "");
+    EXPECT_EQ(file.value_or(""), reply == Answer::Yes ? folder_.file("hoja.xlsx") : "");
   }
   EXPECT_THAT(messages, testing::Each(HasSubstr("Ya existe hoja.xlsx")));
 }

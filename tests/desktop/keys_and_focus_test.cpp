@@ -80,13 +80,11 @@ TEST_F(Focus, EndOfTheProgramUnloadsTheFormsThatAreOpen) {
   stage.onClosed = [&](const screen::Form& shown) { closed += shown.Caption() + " "; };
   SampleForm inner;
   inner.Caption = "inner";
-  inner.save.GotFocus = [&] {
+  inner.text(0).GotFocus = [] {
     QTimer::singleShot(0, [] { QCoreApplication::quit(); });
     screen::MsgBox("¿Sigue?", screen::style::YesNo);
   };
-  form.save.GotFocus = [&] { inner.Show(); };
-  form.save.TabIndex = -1;
-  inner.save.TabIndex = -1;
+  form.text(0).GotFocus = [&] { inner.Show(); };
   QTimer::singleShot(0, [&] { form.Show(); });
   QApplication::exec();
   EXPECT_EQ(closed, "inner Muestra ");
