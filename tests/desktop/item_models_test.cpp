@@ -48,18 +48,17 @@ TEST_F(ItemModels, NumbersAreShownToTheirLastDigitInColumnsOfAnyWidth) {
   QWidget window;
   RowTable table(window);
   table.resize(300, 60);
+  GridModel model(form.grid);
+  table.setModel(&model);
   const auto picture = [&](const std::string& text, int width) {
     ado::Recordset rows = screen::sampleRows(1);
     rows.Collect("Nombre", text);
     rows.Update();
     form.grid.DataSource(rows);
-    GridModel model(form.grid);
-    table.setModel(&model);
+    model.readAgain();
     table.setColumnHidden(0, true);
     table.setColumnWidth(1, width);
-    const QImage image = table.grab().toImage();
-    table.setModel(nullptr);
-    return image;
+    return table.grab().toImage();
   };
   for (const int width : {40, 54, 70}) {
     EXPECT_NE(picture("-123.456.789,01 ", width), picture("-123.456.789,08 ", width)) << width;

@@ -61,19 +61,6 @@ TEST_F(Focus, StrayReleasesAndKeysHeldSinceBeforeDoNothing) {
   });
 }
 
-TEST_F(Focus, FrameButtonAndEscapeEndTheModalCall) {
-  form.text(0).KeyUp = [&](int& code, int) {
-    if (code == screen::key::Escape) form.Unload();
-  };
-  const std::function<void()> ways[] = {[&] { openWindow<FormWindow>().close(); },
-                                        [&] { press("Escape"); }};
-  for (const auto& way : ways)
-    play([&] {
-      way();
-      EXPECT_FALSE(form.loaded());
-    });
-}
-
 TEST_F(Focus, EndOfTheProgramUnloadsTheFormsThatAreOpen) {
   std::string closed;
   stage.onMessage = nullptr;

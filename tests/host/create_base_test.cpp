@@ -165,13 +165,9 @@ TEST_F(CreateBaseTest, TheSampleAddsUpAndHoldsItsSpecialCases) {
   };
   EXPECT_FALSE(holds("Lca where Lca_Total <> Lca_Base + Lca_Iva - Lca_Retencion"));
   EXPECT_FALSE(holds("Lcd inner join Cav on Cav_Id = Lcd_IdCav where Cav_IdLca <> Lcd_IdLca"));
-  const std::string noInvoice =
-      "not exists (select Fav_Id from Fav where Fav_Id = Cav_IdFactura) and Cav_IdLca ";
-  for (const std::string& rows :
-       {std::string("Cav where Cav_Numero > 99999"), "Cav where " + noInvoice + "= 0",
-        "Cav where " + noInvoice + "> 0", std::string("Lav where Lav_Comi is null"),
-        std::string("Lav where Lav_Importe <> round(Lav_Importe, 2)"),
-        std::string("Lca where Lca_Fecha is null"), std::string("Age where AGE_REG is null")})
+  for (const char* rows :
+       {"Cav where Cav_Numero > 99999", "Lav where Lav_Comi is null", "Age where AGE_REG is null",
+        "Lav where Lav_Importe <> round(Lav_Importe, 2)", "Lca where Lca_Fecha is null"})
     EXPECT_TRUE(holds(rows)) << rows;
 }
 

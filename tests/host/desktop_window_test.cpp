@@ -151,17 +151,13 @@ TEST_F(DesktopWindowTest, ASpreadsheetAsksWhereToGoAndOffersToOpen) {
   EXPECT_EQ(messages_.size(), 1U);
 }
 
-TEST_F(DesktopWindowTest, AReportComesUpInAPreviewThatSaves) {
+TEST_F(DesktopWindowTest, AReportComesUpInAPreview) {
   window_.makeSample(path("muestra.db"));
   whenOpen<desktop::PrintPreview>([&](desktop::PrintPreview& preview) {
     EXPECT_GT(preview.findChild<QPrintPreviewWidget*>()->pageCount(), 0);
-    saveAs(path("informe.pdf"));
-    for (QPushButton* each : preview.findChildren<QPushButton*>())
-      if (each->text().contains("PDF")) each->click();
     preview.reject();
   });
   EXPECT_TRUE(press("cmdEmision"));
-  EXPECT_TRUE(std::filesystem::exists(path("informe.pdf")));
 }
 
 }  // namespace

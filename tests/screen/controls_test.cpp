@@ -2,6 +2,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "runtime/screen/picture_file.h"
 #include "scripts/headless_desktop.h"
 #include "tests/screen/on_stage.h"
 
@@ -115,6 +116,24 @@ TEST(KeyNames, AreThoseThatScriptsUse) {
             "27/0/0 32/0/32 65/0/97 65/1/65 209/0/241 188/0/44 231/0/43 231/2/0 9/1/0 ");
   for (const char* name : {"", "F0", "F13", "F1x", "Entrar", "Foo+A", "Alt+", "ab"})
     EXPECT_FALSE(scripts::keyNamed(name)) << name;
+}
+
+TEST(Pictures, TellTheirSizeByTheirFirstBytes) {
+  using namespace std::string_view_literals;
+  for (const std::string_view file :
+       {"BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x40\1\0\0\x10\xFF\xFF\xFF"sv,
+        "GIF89a\x40\1\xF0\0"sv, "\xFF\xD8\xFF\xE0\0\4ab\xFF\xFF\xC0\0\x11\x08\0\xF0\1\x40"sv,
+        "II*\0\x08\0\0\0\2\0\0\1\3\0\1\0\0\0\x40\1\0\0\1\1\4\0\1\0\0\0\xF0\0\0\0"sv}) {
+    ado::Bytes bytes;
+    for (const char byte : file) {
+      EXPECT_FALSE(pictureSize(bytes)) << file << " " << bytes.size();
+      bytes.push_back(static_cast<std::byte>(byte));
+    }
+    const auto size = pictureSize(bytes);
+    ASSERT_TRUE(size) << file;
+    EXPECT_TRUE(size->width == 320 && size->height == 240) << file;
+  }
+  EXPECT_FALSE(pictureSize(ado::Bytes(100, std::byte{'%'})));
 }
 
 }  // namespace

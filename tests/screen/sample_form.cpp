@@ -1,5 +1,7 @@
 #include "tests/screen/sample_form.h"
 
+#include <tuple>
+
 namespace korvantes::screen {
 
 SampleForm::SampleForm() : Form("SampleForm") {
@@ -10,8 +12,7 @@ SampleForm::SampleForm() : Form("SampleForm") {
   }
   openList.Editable = true;
   list.ColumnHeaders = {{"Factura", 1440, Alignment::Left}, {"Importe", 1440, Alignment::Right}};
-  for (int i = 1; i <= 40; ++i)
-    list.Add("F" + std::to_string(i)).SubItems = {std::to_string(i) + ",50"};
+  for (int i = 1; i <= 40; ++i) list.Add("F" + std::to_string(i)).SubItems = {"1,50"};
   grid.DataSource(sampleRows(60));
   grid.Columns(0).Visible = false;
   grid.Columns(2).Button = true;
@@ -41,11 +42,7 @@ void SampleForm::layOut() {
   Height = 7200;
   KeyPreview = true;
   for (int i = 0; i < 3; ++i) text.add(i);
-  const struct {
-    Control& control;
-    Frame* frame;
-    Box place;
-  } inTabOrder[] = {
+  const std::tuple<Control&, Frame*, Box> inTabOrder[] = {
       {text(0), &box, {120, 480, 1200, 285}},       {text(1), &box, {1420, 480, 1200, 285}},
       {text(2), &box, {2720, 480, 1200, 285}},      {check, &inner, {120, 300, 1200, 255}},
       {first, &inner, {1400, 300, 1200, 255}},      {second, &inner, {2700, 300, 1200, 255}},
@@ -56,10 +53,10 @@ void SampleForm::layOut() {
       {heading, &box, {120, 240, 900, 195}},        {image, nullptr, {8000, 2500, 495, 495}},
       {shape, nullptr, {0, 2450, 9000, 700}}};
   int tab = 0;
-  for (const auto& each : inTabOrder) {
-    each.control.container(each.frame);
-    each.control.place(each.place);
-    each.control.TabIndex = tab++;
+  for (const auto& [control, frame, place] : inTabOrder) {
+    control.container(frame);
+    control.place(place);
+    control.TabIndex = tab++;
   }
   box.Caption = "&Datos";
   check.Caption = "Co&bradas";
@@ -100,7 +97,6 @@ ado::Recordset sampleRows(int count) {
     rows.AddNew();
     rows.Collect("Id", i);
     rows.Collect("Nombre", "Agente " + std::to_string(i));
-    rows.Collect("Fecha", "01/07/2026");
     rows.Update();
   }
   if (count > 0) rows.MoveFirst();

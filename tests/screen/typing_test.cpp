@@ -1,3 +1,4 @@
+#include <sstream>
 #include <tuple>
 
 #include "runtime/ado/utf8.h"
@@ -14,11 +15,8 @@ class Typing : public OnStage {
     box.Text = text;
     user.moveFocus(form.save);
     user.moveFocus(box);
-    for (std::size_t at = 0; at < strokes.size();) {
-      const auto end = std::min(strokes.find(' ', at), strokes.size());
-      press(strokes.substr(at, end - at));
-      at = end + 1;
-    }
+    std::istringstream keys(strokes);
+    for (std::string key; keys >> key;) press(key);
     std::u32string seen = ado::toCodePoints(box.Text());
     const auto start = static_cast<std::size_t>(box.SelStart());
     const auto length = static_cast<std::size_t>(box.SelLength());
