@@ -14,8 +14,7 @@
 
 namespace korvantes::desktop {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
+using testing::ElementsAre, testing::HasSubstr;
 
 namespace {
 

@@ -69,11 +69,9 @@ TEST_F(ItemModels, NumbersAreShownToTheirLastDigitInColumnsOfAnyWidth) {
 TEST_F(ItemModels, ShowTheCurrentRowOfTheRecordset) {
   form.save.Click = [rows = form.grid.DataSource()]() mutable { rows.MoveLast(); };
   play([&] {
-    const auto& table = widgetOf<QTableView>(form.grid);
     user.selectRow(form.grid, 12);
-    EXPECT_EQ(table.currentIndex().row(), 12);
     user.click(form.save);
-    EXPECT_EQ(table.currentIndex().row(), 59);
+    EXPECT_EQ(widgetOf<QTableView>(form.grid).currentIndex().row(), 59);
   });
 }
 

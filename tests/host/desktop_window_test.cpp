@@ -17,9 +17,7 @@
 namespace korvantes::host {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
+using testing::ElementsAre, testing::HasSubstr;
 
 /// Acts on a window of that type as soon as one is open.
 template <class Window>
@@ -87,7 +85,7 @@ TEST_F(DesktopWindowTest, ABaseThatCannotBeOpenedLeavesAWayToAnotherOne) {
   window_.openBase("sqlite:" + path("no-hay.db"));
   EXPECT_THAT(cardText(), HasSubstr("no existe"));
   EXPECT_FALSE(entry().isEnabled());
-  EXPECT_THAT(messages_, IsEmpty());
+  EXPECT_THAT(messages_, ElementsAre());
 
   window_.makeSample(path("muestra.db"));
   EXPECT_THAT(cardText(), HasSubstr(path("muestra.db")));
@@ -132,7 +130,7 @@ TEST_F(DesktopWindowTest, ClosingItWhileAScreenIsOpenEndsTheProgramWithoutAsking
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_EQ(openForms, 1U);
   EXPECT_THAT(closed_, ElementsAre("frmNewLiquidAgentes"));
-  EXPECT_THAT(messages_, IsEmpty());
+  EXPECT_THAT(messages_, ElementsAre());
 }
 
 TEST_F(DesktopWindowTest, ASpreadsheetAsksWhereToGoAndOffersToOpen) {

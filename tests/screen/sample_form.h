@@ -49,7 +49,7 @@ class SampleForm : public Form {
   void watch(Control& control);
 };
 
-/// Rows "Agente 1" … with a date, numbered in field 0.
+/// Rows "Agente 1" … with an empty date, numbered in field 0.
 ado::Recordset sampleRows(int count);
 
 }  // namespace korvantes::screen
