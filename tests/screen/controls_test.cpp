@@ -73,24 +73,20 @@ struct Face : FormObserver {
   std::string heard;
 };
 
-TEST(Faces, HearOfRealChangesAlone) {
-  SampleForm form;
+using Faces = OnStage;
+
+TEST_F(Faces, HearOfRealChangesAlone) {
   Face face;
   form.observe(&face);
   form.Caption = "Muestra";
   form.Caption = "Otra";
   form.save.Enabled = true;
   form.fixedList.AddItem("x");
-  ado::Recordset rows = form.grid.DataSource();
-  scripts::HeadlessDesktop desktop;
-  Desktop::makeCurrent(&desktop);
-  form.leave.Click = [&] { rows.MoveLast(); };
-  desktop.whileShown = [&](Form&) {
+  form.leave.Click = [rows = form.grid.DataSource()]() mutable { rows.MoveLast(); };
+  play([&] {
     face.heard += "| ";
-    desktop.user().click(form.leave);
-    form.Unload();
-  };
-  form.Show();
+    user.click(form.leave);
+  });
   EXPECT_EQ(face.heard,
             "form.Caption fixed.ListCount fixed rows active | active grid rows unloaded ");
 }
