@@ -33,13 +33,6 @@ TEST_F(SqliteFileTest, BothFilesAreForTheirOwnerOnly) {
   }
 }
 
-TEST_F(SqliteFileTest, AMissingFileIsOnlyCreatedOnRequest) {
-  refuse(path_);
-  EXPECT_FALSE(fs::exists(path_));
-  refuse(folder_.file("no/hay/empresa.db"), kCreate);
-  refuse(folder_.file(""), kCreate);
-}
-
 TEST_F(SqliteFileTest, ALinkInsteadOfAFileIsRefused) {
   std::ofstream(folder_.file("ajeno")).flush();
   fs::create_symlink("ajeno", path_);
@@ -76,7 +69,11 @@ TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {
   errorOf([&] { connection.Execute("create table AGE (Age_Id int null)"); });
 }
 
-TEST_F(SqliteFileTest, WhatIsNotADatabaseIsLeftUnchanged) {
+TEST_F(SqliteFileTest, WhatIsMissingOrNoDatabaseIsLeftUnchanged) {
+  refuse(path_);
+  EXPECT_FALSE(fs::exists(path_));
+  refuse(folder_.file("no/hay/empresa.db"), kCreate);
+  refuse(folder_.file(""), kCreate);
   std::ofstream(path_) << std::string(5000, 'x');
   refuse(path_);
   EXPECT_EQ(fs::file_size(path_), 5000U);

@@ -70,6 +70,20 @@ TEST_F(UpdateTest, TakesPartInTheTransactionAndMissesADeletedRow) {
   EXPECT_THROW(record.Update(), ado::Error);
 }
 
+TEST_F(UpdateTest, CanBeTriedAgainAndWritesOnlyTheFirstRow) {
+  auto record = connection_->OpenForUpdate("select * from AGE order by AGE_ID");
+  const auto other = connect();
+  other->BeginTrans();
+  record.Collect("AGE_NOM", "Otro");
+  EXPECT_EQ(errorOf([&] { record.Update(); }).kind(), ErrorKind::Busy);
+  EXPECT_EQ(record.Clone().Collect("AGE_NOM"), ado::Variant("Uno"));
+  other->RollbackTrans();
+  record.Update();
+  EXPECT_EQ(rows("select AGE_NOM from AGE order by AGE_ID"), (Rows{"Otro", "Dos"}));
+  record.MoveNext();
+  EXPECT_THROW(record.Collect("AGE_NOM", "x"), ado::Error);
+}
+
 TEST_F(UpdateTest, RefusesWhatIsNotOneTableWithItsKey) {
   for (const char* statement :
        {"select * from Lca inner join Age on Age_Id = Lca_IdAg", "select AGE_NOM from AGE",
