@@ -8,19 +8,18 @@
 namespace korvantes::ado {
 namespace {
 
-using testing::HasSubstr;
-using testing::ThrowsMessage;
-
-Recordset agents(int count) {
-  static const auto fields = std::make_shared<const std::vector<FieldDefinition>>(
-      std::vector<FieldDefinition>{{"AGE_ID", FieldType::Integer, 0, 0},
-                                   {"AGE_NOM", FieldType::VarChar, 100, 0},
-                                   {"Age_Id", FieldType::Integer, 0, 0}});
-  std::vector<Variant> cells;
-  for (int i = 1; i <= count; ++i) {
-    cells.insert(cells.end(), {i * 10, "agente " + std::to_string(i), -i});
-  }
-  return {fields, std::move(cells)};
+/// The first rows of a list.
+Recordset people(std::size_t count = 3) {
+  const std::vector<FieldDefinition> fields{{"Id", FieldType::Double, 0, 0},
+                                            {"Nombre", FieldType::VarChar, 8, 0},
+                                            {"Base", FieldType::Currency, 0, 4},
+                                            {"Alta", FieldType::Date, 0, 0},
+                                            {"ID", FieldType::Integer, 0, 0}};
+  std::vector<Variant> rows{1.0, "Muñoz", Decimal(105000, 4), Date{2024, 1, 31}, -1};
+  rows.insert(rows.end(), {2.0, "O'Neill", {}, Date{2025, 1, 1}, -2});
+  rows.insert(rows.end(), {3.0, "muñoz ", Decimal(200000, 4), {}, -3});
+  rows.resize(count * fields.size());
+  return {std::make_shared<const std::vector<FieldDefinition>>(fields), std::move(rows)};
 }
 
 Recordset byHand() {
@@ -33,42 +32,37 @@ Recordset byHand() {
   return rows;
 }
 
-TEST(RecordsetTest, WalksFromTheFirstRowToBothEnds) {
-  Recordset rows = agents(2);
-  EXPECT_EQ(rows.RecordCount(), 2U);
-  EXPECT_EQ(rows.Fields(0).Value(), Variant(10));
+TEST(RecordsetTest, WalksFromTheFirstRowToBothEndsAndFindsFieldsIgnoringCase) {
+  Recordset rows = people();
+  EXPECT_EQ(rows.Fields("iD").Value(), Variant(1.0));  // the first of two
+  EXPECT_EQ(rows.Fields(4).Name(), "ID");
+  EXPECT_THROW(rows.Fields(5), Error);
+  EXPECT_THAT([&] { rows.Fields("Age_Nif"); },
+              testing::ThrowsMessage<Error>(testing::HasSubstr("Age_Nif")));
   rows.MovePrevious();
   EXPECT_TRUE(rows.isBOF());
   EXPECT_FALSE(rows.isEOF());
   EXPECT_THROW(rows.MovePrevious(), Error);
   EXPECT_THROW(rows.Fields(0).Value(), Error);
-  for (const Bookmark& place : {Bookmark(0), Bookmark(1), Bookmark()}) {
+  for (const Bookmark& place : {Bookmark(0), Bookmark(1), Bookmark(2), Bookmark()}) {
     rows.MoveNext();
     EXPECT_EQ(rows.position(), place);
   }
   EXPECT_TRUE(rows.isEOF());
   EXPECT_THROW(rows.MoveNext(), Error);
   rows.MovePrevious();
-  EXPECT_EQ(rows.Collect("age_nom"), Variant("agente 2"));
-}
-
-TEST(RecordsetTest, FieldsAreFoundIgnoringCaseTheFirstOfTwo) {
-  Recordset rows = agents(1);
-  EXPECT_EQ(rows.Fields("age_id").Value(), Variant(10));
-  EXPECT_EQ(rows.Fields(2).Name(), "Age_Id");
-  EXPECT_THROW(rows.Fields(3), Error);
-  EXPECT_THAT([&] { rows.Fields("Age_Nif"); }, ThrowsMessage<Error>(HasSubstr("Age_Nif")));
+  EXPECT_EQ(rows.Collect("id"), Variant(3.0));
 }
 
 TEST(RecordsetTest, CopiesShareTheCursorAndClonesDoNot) {
-  Recordset rows = agents(3);
+  Recordset rows = people();
   Recordset copy = rows;
   Recordset clone = rows.Clone();
   rows.MoveLast();
   EXPECT_EQ(copy.position(), 2U);
   EXPECT_EQ(clone.position(), 0U);
   clone.Bookmark(copy.Bookmark());
-  EXPECT_EQ(clone.Collect("AGE_ID"), Variant(30));
+  EXPECT_EQ(clone.Collect("Id"), Variant(3.0));
   EXPECT_THROW(clone.Bookmark(Bookmark()), Error);
   EXPECT_THROW(clone.Bookmark(Bookmark(3)), Error);
   rows.Close();
@@ -77,13 +71,16 @@ TEST(RecordsetTest, CopiesShareTheCursorAndClonesDoNot) {
 }
 
 TEST(RecordsetTest, AnEmptyOneIsAtBothEndsAndAClosedOneAtNeither) {
-  Recordset empty = agents(0);
+  Recordset empty = people(0);
   EXPECT_TRUE(empty.isBOF() && empty.isEOF());
   EXPECT_FALSE(empty.Bookmark());
   EXPECT_THROW(empty.MoveFirst(), Error);
-  EXPECT_THROW(empty.Fields("AGE_ID").Value(), Error);
+  EXPECT_THROW(empty.Fields("Id").Value(), Error);
+  empty.Find("Id = 12");
+  EXPECT_TRUE(empty.isEOF());
+  EXPECT_THROW(empty.AddNew(), Error);  // was not opened for it
+  EXPECT_THROW(people().Collect("Nombre", "otro"), Error);
   Recordset never;
-  EXPECT_FALSE(never.isOpen());
   EXPECT_THROW(never.isEOF(), Error);
   EXPECT_THROW(never.Open(), Error);  // no fields
   Recordset rows = byHand();
@@ -143,45 +140,16 @@ TEST(RecordsetTest, ValuesAreConvertedToTheField) {
   EXPECT_THROW(rows.Collect("Importe", 1e15), ConversionError);
 }
 
-struct RecordingWriter : RowWriter {
-  void write(const std::vector<std::pair<std::string, Variant>>& changes) override {
-    if (fail) throw Error(1, "disco lleno");
-    written = changes;
-  }
-  bool fail = false;
-  std::vector<std::pair<std::string, Variant>> written;
-};
-
-TEST(RecordsetTest, OnlyARowOpenedForItIsWrittenAndThatCanBeTriedAgain) {
-  const auto writer = std::make_shared<RecordingWriter>();
-  Recordset source = agents(2);
-  EXPECT_THROW(source.AddNew(), Error);
-  EXPECT_THROW(source.Collect("AGE_NOM", "otro"), Error);
-  Recordset rows(std::make_shared<const std::vector<FieldDefinition>>(source.definitions()),
-                 {10, "uno", -1, 20, "dos", -2}, writer);
-  rows.Collect("AGE_NOM", "Ángel");
-  writer->fail = true;
-  EXPECT_THROW(rows.Update(), Error);
-  EXPECT_EQ(rows.cell(0, 1), Variant("uno"));
-  writer->fail = false;
-  rows.Update();
-  ASSERT_EQ(writer->written.size(), 1U);
-  EXPECT_EQ(writer->written[0].first, "AGE_NOM");
-  EXPECT_EQ(rows.cell(0, 1), Variant("Ángel"));
-  rows.MoveNext();
-  EXPECT_THROW(rows.Collect("AGE_NOM", "x"), Error);  // not the row that was fetched for it
-}
-
 TEST(RecordsetTest, ReportsEachMoveOfItsOwnCursorOnce) {
-  Recordset rows = agents(2);
+  Recordset rows = people();
   Recordset clone = rows.Clone();
   int moves = 0;
   rows.onMoveComplete([&] { ++moves; });
-  rows.MoveNext();
+  rows.MoveLast();
   rows.MoveNext();  // to EOF
   Recordset(rows).MoveFirst();
   rows.Bookmark(Bookmark(1));
-  rows.Find("AGE_ID = 99");
+  rows.Find("Id = 99");
   EXPECT_EQ(moves, 5);
   EXPECT_THROW(rows.MoveNext(), Error);
   clone.MoveLast();
@@ -192,6 +160,47 @@ TEST(RecordsetTest, ReportsEachMoveOfItsOwnCursorOnce) {
   });
   EXPECT_THROW(rows.MoveFirst(), std::runtime_error);
   EXPECT_EQ(rows.position(), 0U);  // the move itself was done
+}
+
+TEST(FindTest, StopsAtTheFirstMatchFromTheCurrentRowOn) {
+  const std::pair<const char*, Bookmark> cases[] = {{"id=3", 2},
+                                                    {"[Id] >= 2", 1},
+                                                    {"Nombre = 'MUÑOZ'", 0},
+                                                    {"Nombre = 'o''neill'", 1},
+                                                    {"Base <> 10.5", 2},
+                                                    {"Base < 0", Bookmark()},
+                                                    {"Alta > '31/01/2024'", 1},
+                                                    {"Alta <= '31/1/2024 '", 0}};
+  for (const auto& [criterion, position] : cases) {
+    Recordset rows = people();
+    rows.Find(criterion);
+    EXPECT_EQ(rows.position(), position) << criterion;
+    EXPECT_EQ(rows.isEOF(), !position) << criterion;
+  }
+}
+
+TEST(FindTest, SkipsRowsSearchesBackwardsAndNeedsARowToStartFrom) {
+  Recordset rows = people();
+  rows.Find("Nombre = 'muñoz'", 1);
+  EXPECT_EQ(rows.position(), 2U);
+  rows.Find("Nombre = 'muñoz'", 1, Recordset::Direction::Backward);
+  EXPECT_EQ(rows.position(), 0U);
+  rows.Find("Id = 1", 1, Recordset::Direction::Backward);
+  EXPECT_TRUE(rows.isBOF());
+  rows.MoveFirst();
+  rows.Find("Id = 1", 999'999);
+  EXPECT_TRUE(rows.isEOF());
+  EXPECT_THROW(rows.Find("Id = 1"), Error);  // no row to start from
+}
+
+TEST(FindTest, RefusesOtherTexts) {
+  Recordset rows = people();
+  for (const char* criterion : {"", "Id", "Id =", "Id == 1", "Id = 1 AND Id = 2", "Id = 1,5",
+                                "Id = '1'", "Nombre = x", "Nombre = 'a", "Nombre = 'a'b'",
+                                "Nombre like 'a'", "Alta = '31/02/2024'", "Alta = 1", "Otro = 1"}) {
+    EXPECT_THROW(rows.Find(criterion), Error) << criterion;
+    EXPECT_EQ(rows.position(), 0U);
+  }
 }
 
 }  // namespace

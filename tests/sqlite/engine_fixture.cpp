@@ -7,33 +7,37 @@
 
 namespace korvantes::testing_engines {
 
-void makeTables(ado::Connection& connection) {
-  std::ifstream file(KORVANTES_SCHEMA_FILE);
-  std::stringstream text;
-  text << file.rdbuf();
-  connection.BeginTrans();
-  for (const std::string& statement : tsql::splitStatements(text.str())) {
-    connection.Execute(statement);
+ado::Error errorOf(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (const ado::Error& error) {
+    EXPECT_STRNE(error.what(), "");
+    return error;
   }
+  ADD_FAILURE() << "no error";
+  return {0, ""};
+}
+
+void FileTest::makeBase() const {
+  std::stringstream text;
+  text << std::ifstream(KORVANTES_SCHEMA_FILE).rdbuf();
+  SqliteConnection connection(path_, kCreate);
+  connection.BeginTrans();
+  for (const auto& statement : tsql::splitStatements(text.str())) connection.Execute(statement);
   connection.CommitTrans();
 }
 
-std::string EngineTest::cell(std::string_view statement) {
-  const auto lines = rows(statement);
-  EXPECT_EQ(lines.size(), 1U) << statement;
-  return lines.empty() ? "no row" : lines.front();
+std::string EngineTest::row(std::string_view statement) {
+  const auto found = rows(statement);
+  EXPECT_EQ(found.size(), 1U) << statement;
+  return found.empty() ? "no row" : found.front();
 }
 
-long EngineTest::failure(std::string_view statement) {
-  try {
-    run(statement);
-  } catch (const ado::Error& error) {
-    EXPECT_NE(std::string(error.what()), "");
-    EXPECT_EQ(error.subject(), ado::subjectOf(statement));
-    return error.number();
-  }
-  ADD_FAILURE() << "no error: " << statement;
-  return 0;
+ado::Error EngineTest::failure(std::string_view statement) {
+  SCOPED_TRACE(statement);
+  auto error = errorOf([&] { run(statement); });
+  EXPECT_EQ(error.subject(), ado::subjectOf(statement));
+  return error;
 }
 
 }  // namespace korvantes::testing_engines

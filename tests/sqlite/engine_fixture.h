@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -12,29 +13,42 @@
 
 namespace korvantes::testing_engines {
 
+using ado::ErrorKind;
+using sqlite::SqliteConnection;
 using support::rowsOf;
-using support::TemporaryFolder;
+using Rows = std::vector<std::string>;
 
-/// Runs statements of data/schema.sql, all tables empty.
-void makeTables(ado::Connection& connection);
+/// Creates what is missing, and waits for other writers as little as it can.
+inline constexpr sqlite::OpenOptions kCreate{true, 20};
+
+/// The Error that a call ends in; fails the test if there is none.
+ado::Error errorOf(const std::function<void()>& call);
+
+/// A folder for a database and its shared file, both still missing.
+class FileTest : public testing::Test {
+ protected:
+  /// Creates both files with all tables of data/schema.sql, empty.
+  void makeBase() const;
+
+  support::TemporaryFolder folder_;
+  std::string path_ = folder_.file("empresa.db");
+  std::string partner_ = path_ + ".vespara";
+};
 
 /// A database with all tables, and a connection to it.
-class EngineTest : public testing::Test {
+class EngineTest : public FileTest {
  protected:
-  EngineTest() { makeTables(*connection_); }
-  /// A further connection, which waits for other writers as little as it can.
+  EngineTest() { makeBase(); }
   std::unique_ptr<ado::Connection> connect() {
-    return std::make_unique<sqlite::SqliteConnection>(folder_.file("empresa.db"),
-                                                      sqlite::OpenOptions{true, 20});
+    return std::make_unique<SqliteConnection>(path_, kCreate);
   }
   ado::Recordset run(std::string_view statement) { return connection_->Execute(statement); }
-  std::vector<std::string> rows(std::string_view statement) { return rowsOf(run(statement)); }
-  /// The one cell of a result.
-  std::string cell(std::string_view statement);
-  /// The number of the Error that a statement ends in; fails the test when it runs.
-  long failure(std::string_view statement);
+  Rows rows(std::string_view statement) { return rowsOf(run(statement)); }
+  /// The one row of a result.
+  std::string row(std::string_view statement);
+  /// The Error that a statement ends in.
+  ado::Error failure(std::string_view statement);
 
-  TemporaryFolder folder_;
   std::unique_ptr<ado::Connection> connection_ = connect();
 };
 

