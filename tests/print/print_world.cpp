@@ -1,8 +1,5 @@
 #include "tests/print/print_world.h"
 
-#include <sstream>
-#include <stdexcept>
-
 #include "office/print/folder_report_outlet.h"
 #include "office/print/mz_print.h"
 #include "tests/support/program_output.h"
@@ -45,39 +42,35 @@ int PrintWorld::settle(const std::vector<int>& notes, const std::string& values,
   return number;
 }
 
-std::unique_ptr<Object> PrintWorld::component() {
-  return std::make_unique<MZPrint>(outlet);
-}
-
 std::unique_ptr<Object> PrintWorld::print() {
-  auto object = component();
+  auto object = std::make_unique<MZPrint>(outlet);
   object->set("MyBd", std::make_shared<plindor::BaseDatos>(connection));
   return object;
 }
 
+std::string PrintWorld::reportText(int report, const std::string& statement,
+                                   const std::optional<ado::Recordset>& rows) {
+  std::vector<Argument> arguments{ado::Variant(report), ado::Variant(statement), ado::Variant(0)};
+  if (rows) arguments.insert(arguments.end(), {Omitted{}, Omitted{}, Omitted{}, Omitted{}, *rows});
+  print()->call("ShowReport", arguments);
+  return "\n" +
+         support::outputOf("pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() +
+                           "' - | sed -E 's/ +/ /g; s/^ //; s/ $//'");
+}
+
 std::string PrintWorld::settlementText(int number) {
-  const std::string statement =
+  return reportText(
+      11,
       "select age_id,age_nom,age_nif,lca.* from lca inner join age on lca_idag=age_id  Where "
       "lca_id = " +
-      std::to_string(number);
-  print()->call("ShowReport", {ado::Variant(11), ado::Variant(statement), ado::Variant(0)});
-  return text();
+          std::to_string(number));
 }
 
-std::string PrintWorld::text() const {
-  if (delivered.empty()) throw std::logic_error("no report was delivered");
-  return support::outputOf("pdftotext -layout -enc UTF-8 '" + delivered.back().file.string() +
-                           "' -");
-}
-
-std::string lineWith(const std::string& text, const std::string& part) {
-  const std::size_t place = text.find(part);
-  if (place == std::string::npos) return "";
-  const std::size_t start = text.rfind('\n', place) + 1;
-  std::istringstream words(text.substr(start, text.find('\n', place) - start));
-  std::string line, word;
-  while (words >> word) line += (line.empty() ? "" : " ") + word;
-  return line;
+std::vector<std::string> missing(const std::string& text, std::vector<std::string> lines) {
+  std::erase_if(lines, [&](const std::string& line) {
+    return text.find("\n" + line + "\n") != std::string::npos;
+  });
+  return lines;
 }
 
 std::string amountText(long cents) {

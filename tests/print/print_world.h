@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,17 +23,18 @@ class PrintWorld : public support::ScreenWorld {
   void invoice(int invoice);
   /// A settlement over notes; gives its number.
   /// @param values from Lca_Fecha to Lca_Obs, with commas in between
-  int settle(const std::vector<int>& notes, const std::string& values, int agent = 7);
+  int settle(const std::vector<int>& notes,
+             const std::string& values = "Null, Null, 0, 0, 0, 0, 0, 0, 0, 0, ''", int agent = 7);
 
-  /// The report component as a form uses it, without and with the database.
-  std::unique_ptr<Object> component();
+  /// The report component as a form uses it.
   std::unique_ptr<Object> print();
-  /// Report 11 of a settlement, as the text of its PDF; a form feed after each page.
+  /// The text of a report's PDF: a new line before the first line and a form feed after each page,
+  /// blanks squeezed into one each.
+  std::string reportText(int report, const std::string& statement,
+                         const std::optional<ado::Recordset>& rows = {});
   std::string settlementText(int number);
 
   std::string file(const std::string& name) const { return out_.file(name); }
-  /// The text of the newest PDF.
-  std::string text() const;
 
   struct Delivered {
     int number;
@@ -46,8 +48,8 @@ class PrintWorld : public support::ScreenWorld {
   support::TemporaryFolder out_;
 };
 
-/// The line of a text that holds `part`, its blanks squeezed into one each; empty without.
-std::string lineWith(const std::string& text, const std::string& part);
+/// Those of the lines that a text does not have.
+std::vector<std::string> missing(const std::string& text, std::vector<std::string> lines);
 /// How often it occurs.
 std::size_t count(const std::string& text, const std::string& part);
 /// "1.234,56" of cents that are not negative.
