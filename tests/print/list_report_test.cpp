@@ -30,10 +30,6 @@ struct Sums {
   }
 };
 
-std::string show(PrintWorld& world, const ado::Recordset& rows) {
-  return world.reportText(12, "", rows);
-}
-
 /// The values of a settlement for PrintWorld::settle.
 std::string stored(const std::string& date, const Sums& head) {
   const auto amount = [](long cents) { return std::to_string(cents) + " / 100.0, "; };
@@ -85,7 +81,7 @@ TEST(ListReport, AddsUpSettlementsDaysAgentsAndTheWhole) {
        "Fav_CliNom", "Fav_Bruto", "Porcentaje", "Comision"},
       std::move(cells));
   rows.moveTo(345);
-  const std::string text = show(world, rows);
+  const std::string text = world.reportText(12, "", rows);
 
   EXPECT_EQ(rows.position(), 345U);
   EXPECT_EQ(world.delivered.back().rows, 1000U);
@@ -130,25 +126,25 @@ TEST(ListReport, FollowsEverySettlementOfADayThroughTheMerge) {
   ASSERT_EQ(rows.RecordCount(), 4U);
   world.sql("DELETE FROM Lca WHERE Lca_Id = 5");
   connection->forgetCalls();
-  const std::string text = show(world, rows);
+  const std::string text = world.reportText(12, "", rows);
 
   EXPECT_EQ(connection->calls().size(), 1U);
-  for (const std::string& words : {
-           std::string(" 1.000,00 15,00 150,00\n"),
-           "Total liquidación 1" + Sums{10000, 2100, 1500, 10600, 10000}.text(),
-           std::string("Sus filas suman 150,00. Una factura de varias liquidaciones"),
-           "Total liquidación 2" + Sums{5000, 1050, 750, 5300, 5000}.text(),
-           std::string("Sin filas propias: sus facturas están"),
-           "Total liquidación 3" + Sums{900, 189, 135, 954, 900}.text(),
-           "Total del 24/11/2026" + Sums{15900, 3339, 2385, 16854, 15900}.text(),
-           std::string("Las filas suman 157,00: hay albaranes sin factura"),
-           "Total liquidación 4" + Sums{3001, 0, 0, 3001, 3000}.text(),
-           std::string("suman hoy 30,00, no la base guardada"),
-           std::string("La liquidación ha cambiado o ya no existe"),
-           "Total agente 7" + Sums{18901, 3339, 2385, 19855, 18900}.text(),
-           "Total de 4 liquidaciones" + Sums{18901, 3339, 2385, 19855, 18900}.text(),
-       })
-    EXPECT_EQ(count(text, words), 1U) << words;
+  const std::vector<std::string> words = {
+      " 1.000,00 15,00 150,00\n",
+      "Total liquidación 1" + Sums{10000, 2100, 1500, 10600, 10000}.text(),
+      "Sus filas suman 150,00. Una factura de varias liquidaciones",
+      "Total liquidación 2" + Sums{5000, 1050, 750, 5300, 5000}.text(),
+      "Sin filas propias: sus facturas están",
+      "Total liquidación 3" + Sums{900, 189, 135, 954, 900}.text(),
+      "Total del 24/11/2026" + Sums{15900, 3339, 2385, 16854, 15900}.text(),
+      "Las filas suman 157,00: hay albaranes sin factura",
+      "Total liquidación 4" + Sums{3001, 0, 0, 3001, 3000}.text(),
+      "suman hoy 30,00, no la base guardada",
+      "La liquidación ha cambiado o ya no existe",
+      "Total agente 7" + Sums{18901, 3339, 2385, 19855, 18900}.text(),
+      "Total de 4 liquidaciones" + Sums{18901, 3339, 2385, 19855, 18900}.text(),
+  };
+  for (const std::string& each : words) EXPECT_EQ(count(text, each), 1U) << each;
   EXPECT_EQ(count(text, "suman hoy"), 1U);
   EXPECT_EQ(count(text, "Total liquidación "), 4U);
   EXPECT_EQ(count(text, "Las filas suman"), 1U);
