@@ -4,7 +4,6 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
-#include "office/print/mz_print.h"
 #include "tests/print/print_world.h"
 #include "tests/support/folder_contents.h"
 #include "tests/support/full_disk.h"
