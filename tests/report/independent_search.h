@@ -18,28 +18,27 @@ struct Limits {
   std::optional<ado::Date> from, to;
 };
 
-/// A row as text: every field by its name, amounts with four decimals.
-std::string textOf(const ado::Recordset& rows, std::size_t row);
+/// Values by the name of their field, in lower case.
+using Record = std::map<std::string, ado::Variant>;
+Record recordOf(const ado::Recordset& rows, std::size_t row);
+/// The fields of `rows` from a record that has them all; amounts with four decimals.
+std::string textOf(const Record& record, const ado::Recordset& rows);
 
 /// Rows in their order, in groups: those of one group tie, and may come in any order.
-using Groups = std::vector<std::vector<std::string>>;
+using Groups = std::vector<std::vector<Record>>;
 
 class RawTables {
  public:
   explicit RawTables(ado::Connection& connection);
 
-  Groups search(Forma shape, bool byDate, const Limits& limits) const;
+  Groups search(Forma shape, bool byDate, const Limits& limits);
   /// Sum of the bases of all settlements within the limits, in cents.
   std::int64_t totalCents(const Limits& limits) const;
 
  private:
-  using Record = std::map<std::string, ado::Variant>;
   using ById = std::map<int, Record>;
-  struct Row;
 
-  static bool within(const Record& settlement, const Limits& limits);
-  void addNotes(std::vector<Row>& rows, const Record& head, Forma shape, bool byDate) const;
-  void addInvoices(std::vector<Row>& rows, const std::vector<Record>& notes, bool byDate) const;
+  void addNotes(std::vector<Record>& rows, const Record& settlement, Forma shape);
 
   std::vector<Record> settlements_;
   ById agents_, notes_, invoices_, customers_;

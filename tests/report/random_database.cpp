@@ -22,7 +22,7 @@ class Filler {
              number(agent) + "," +
                  (agent > 6 ? "'Agente " + number(agent * 37 % 50) + "'"
                             : std::string(names[agent - 1])) +
-                 (agent == 3 ? ",Null" : ",'1234567890-1234567890 " + number(agent) + "'"));
+                 (agent == 3 ? ",Null" : ",'12345ñ7890-123456789ñ " + number(agent) + "'"));
     for (int customer = 1; customer <= kCustomers; ++customer)
       insert("Cli (Cli_Id)", number(customer));
     for (int id = 1; id <= settlements; ++id) settlement(id);

@@ -4,26 +4,54 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "report/frmLiquidAgentes.h"
 #include "tests/settlement/settlement_world.h"
 
 namespace korvantes::report {
 
+/// Every shape, by date and by name.
+struct Shape {
+  Forma forma;
+  bool byDate;
+};
+inline constexpr Shape kShapes[] = {{Forma::Resumen, true},
+                                    {Forma::Factura, true},
+                                    {Forma::Factura, false},
+                                    {Forma::Albaran, true},
+                                    {Forma::Albaran, false}};
+
 /// The open screen, as its user handles it.
 struct SearchScreen : support::OpenScreen<frmLiquidAgentes> {
-  void type(int index, std::string_view text) const;
+  /// Types the filters; dates as digits.
+  void filter(std::string_view agent, std::string_view from, std::string_view to) const {
+    typeInto("Text1(0)", agent);
+    typeInto("Text1(2)", from);
+    typeInto("Text1(3)", to);
+  }
   /// Ticks or unticks the boxes of the shape and takes the order, as far as they are enabled.
-  void choose(Forma forma, bool bPorFecha = true) const;
+  void choose(const Shape& shape) const {
+    const auto tick = [this](const char* identity, bool wanted) {
+      if ((control<screen::CheckBox>(identity).Value() != 0) != wanted) click(identity);
+    };
+    tick("Check1(0)", true);
+    tick("Check1(1)", shape.forma == Forma::Albaran);
+    tick("Check1(0)", shape.forma != Forma::Resumen);
+    click(shape.byDate ? "Option1(0)" : "Option1(1)");
+  }
   void search() const { click("cmdBuscar"); }
-  /// The cells shown, row after row, joined with " | ".
-  std::vector<std::string> rows() const;
+  screen::DataGrid& grid() const { return control<screen::DataGrid>("dbgLiqui"); }
   bool canPrint() const { return control<screen::PictureButton>("cmdEmision").Enabled(); }
   bool canExport() const { return control<screen::PictureButton>("cmdExcel").Enabled(); }
 };
 
 /// Opens the screen, lets the user play, closes it.
-void show(settlement::World& world, const std::function<void(SearchScreen&)>& user);
+inline void show(settlement::World& world, const std::function<void(SearchScreen&)>& user) {
+  frmLiquidAgentes form;
+  world.play(form, [&] {
+    SearchScreen screen{{world.desktop, form}};
+    user(screen);
+  });
+}
 
 }  // namespace korvantes::report
