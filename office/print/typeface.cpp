@@ -1,6 +1,7 @@
 #include "office/print/typeface.h"
 
 #include <QTextLayout>
+#include <QTextOption>
 
 namespace korvantes::office {
 
@@ -47,10 +48,14 @@ QString Typeface::elided(const QString& text, double width) const {
 
 QStringList Typeface::wrapped(const QString& text, double width) const {
   QStringList lines;
+  // A word wider than the line is broken rather than cut.
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   QString paragraphs = text;
   paragraphs.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   for (const QString& paragraph : paragraphs.split(u'\n')) {
     QTextLayout layout(paragraph, font_, device_);
+    layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
       line.setLineWidth(width);

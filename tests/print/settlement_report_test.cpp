@@ -16,8 +16,7 @@ TEST(SettlementReport, ShowsTheSettlementAsItIsStored) {
   world.note(1, 11, "10.05", "7.5");
   world.sql("INSERT INTO Lav (Lav_Id, Lav_IdCav, Lav_Importe, Lav_Comi) VALUES (2, 1, 20.05, 7.5)");
   world.sql("UPDATE Cav SET Cav_Dto1 = 10, Cav_DTO2 = 5, Cav_NFiscal = 'Peña, S.A.'");
-  const std::string words =
-      "WWWWWWWWWWWWWWWWWWWW WWWWWWWWWWWWWWWWWWWW WWWWWWWWWWWWWWWWWWWW WWWWWWWWWWWW";
+  const std::string words(72, 'W');  // one word, wider than the page
   world.settle({1},
                "'24/11/2026', '31/10/2026', 1, 0, 1.93, 21, 0.41, 15, 0.29, 2.05, "
                "'Pagar por banco\r\n" +
