@@ -105,7 +105,7 @@ void MessageDialog::keyPressEvent(QKeyEvent* event) {
     QGuiApplication::clipboard()->setText(text_);
     return;
   }
-  // The letter alone answers, without Alt, as in the original message boxes.
+  // The letter alone answers, without Alt, as in the message boxes that users know.
   if (!event->isAutoRepeat() && event->modifiers() == Qt::NoModifier) {
     if (event->key() == Qt::Key_S && button(screen::Answer::Yes) != nullptr)
       return choose(screen::Answer::Yes);
